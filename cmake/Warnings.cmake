@@ -1,0 +1,15 @@
+# The project's warnings, sanitizers and Qt settings in one interface target.
+add_library(voran_flags INTERFACE)
+target_compile_options(voran_flags INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wdouble-promotion -Wold-style-cast
+    -Wnon-virtual-dtor -Woverloaded-virtual -Wformat=2
+    $<$<CXX_COMPILER_ID:GNU>:-Wsuggest-override>
+    $<$<BOOL:${VORAN_WARNINGS_AS_ERRORS}>:-Werror>)
+# QGLWidget is deprecated in Qt 5.15 and is the base of every plot on purpose.
+target_compile_definitions(voran_flags INTERFACE
+    QT_NO_DEPRECATED_WARNINGS)
+if(VORAN_SANITIZE)
+    target_compile_options(voran_flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=undefined
+                                                 -fno-omit-frame-pointer)
+    target_link_options(voran_flags INTERFACE -fsanitize=address,undefined)
+endif()
