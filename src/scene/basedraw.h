@@ -8,15 +8,14 @@
 
 #include <array>
 
-namespace Zel3D
-{
+namespace Zel3D {
 
 /// The root of every object that a plot draws around its data.
 ///
-/// Holds a visibility flag that persists, a flag that marks unsaved changes, a list of child drawables that it
-/// does not own, and a guard for the OpenGL state: a drawable that starts its draw() with saveGLState() and ends
-/// it with restoreGLState() leaks none of the saved items into the next one. GL_BLEND, GL_DEPTH_TEST and
-/// lighting are not among them; who changes these puts them back.
+/// Holds a visibility flag that persists, a flag that marks unsaved changes, a list of child drawables that
+/// it does not own, and a guard for the OpenGL state: a drawable that starts its draw() with saveGLState()
+/// and ends it with restoreGLState() leaks none of the saved items into the next one. GL_BLEND, GL_DEPTH_TEST
+/// and lighting are not among them; who changes these puts them back.
 class VORANPLOT_EXPORT BaseDraw
 {
 public:
@@ -85,7 +84,8 @@ protected:
 private:
     void fetchMatrices();
 
-    struct GLState {
+    struct GLState
+    {
         bool lineSmooth = false;
         bool polygonSmooth = false;
         float lineWidth = 1.0F;

@@ -7,10 +7,10 @@
 
 #include <dlfcn.h>
 
-namespace
-{
+namespace {
 
-struct Record {
+struct Record
+{
     QStringList calls;
     QVector<GLRecorder::Primitive> primitives;
     GLRecorder::Vertex current;
@@ -386,7 +386,8 @@ void glScalef(GLfloat x, GLfloat y, GLfloat z)
     call(x, y, z);
 }
 
-void glOrtho(GLdouble left, GLdouble right, GLdouble bottom, GLdouble top, GLdouble nearPlane, GLdouble farPlane)
+void glOrtho(GLdouble left, GLdouble right, GLdouble bottom, GLdouble top, GLdouble nearPlane,
+             GLdouble farPlane)
 {
     static auto* const call =
         next<void(GLdouble, GLdouble, GLdouble, GLdouble, GLdouble, GLdouble)>("glOrtho");

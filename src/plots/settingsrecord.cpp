@@ -1,0 +1,7 @@
+#include "plots/settingsrecord.h"
+
+namespace Zel3D {
+
+SettingsRecord::~SettingsRecord() = default;
+
+} // namespace Zel3D
