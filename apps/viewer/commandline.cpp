@@ -4,8 +4,7 @@
 
 #include <QRegularExpression>
 
-namespace
-{
+namespace {
 
 constexpr int smallestSide = 50;
 constexpr int largestSide = 16384;
@@ -56,7 +55,8 @@ CommandLine::Outcome CommandLine::take()
         return refuse(tr("Only one grid file can be shown; %1 are named.").arg(files.size()));
     m_file = files.value(0);
     m_picture = m_parser.value("png");
-    const struct {
+    const struct
+    {
         const char* option;
         bool (CommandLine::*take)(const QString&);
     } checks[] = {{"style", &CommandLine::takeStyle},

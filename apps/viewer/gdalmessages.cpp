@@ -2,8 +2,7 @@
 
 #include <cpl_error.h>
 
-namespace
-{
+namespace {
 
 void CPL_STDCALL collect(CPLErr kind, CPLErrorNum, const char* text)
 {

@@ -9,7 +9,8 @@
 ///
 /// The nodes stand column by column in one block: z()[column][row], the column along x, row 0 at yMin. A node
 /// without a value is NaN. Moves and does not copy: the column pointers point into the block.
-struct Grid {
+struct Grid
+{
     Grid() = default;
     Grid(Grid&&) = default;
     Grid& operator=(Grid&&) = default;

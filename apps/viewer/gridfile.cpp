@@ -14,10 +14,10 @@
 
 #include <gdal.h>
 
-namespace
-{
+namespace {
 
-struct CloseDataset {
+struct CloseDataset
+{
     void operator()(void* dataset) const { GDALClose(dataset); }
 };
 using Dataset = std::unique_ptr<void, CloseDataset>;

@@ -3,8 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace
-{
+namespace {
 
 // A turn that moves no node by more than this part of a cell is a rounding error of the file.
 constexpr double negligibleTurn = 1e-3;

@@ -2,7 +2,8 @@
 
 /// Where the nodes of a grid file lie: the ranges of their coordinates and the order in which the file has
 /// them.
-struct GridPlacement {
+struct GridPlacement
+{
     /// What keeps a file's georeferencing from being used.
     enum Problem { None, Rotated, Unusable };
 

@@ -4,8 +4,7 @@
 #include <QFile>
 #include <QLocale>
 
-namespace
-{
+namespace {
 
 // The reader's heights, the plot's nodes with their normals and the compiled display list together.
 constexpr double bytesPerNode = 350.0;

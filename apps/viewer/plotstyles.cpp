@@ -1,9 +1,9 @@
 #include "plotstyles.h"
 
-namespace
-{
+namespace {
 
-struct Entry {
+struct Entry
+{
     const char* name;
     const char* text; ///< on the plot's tool bar
 };

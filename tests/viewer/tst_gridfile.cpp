@@ -10,15 +10,15 @@
 
 #include <gdal.h>
 
-namespace
-{
+namespace {
 
 // Columns of the test grids; rows are 3. The height of a file's cell is 10 * column + line: no two are equal
 // and no mirror image or transposition looks like another.
 constexpr int gridColumns = 4;
 constexpr int gridLines = 3;
 
-struct Raster {
+struct Raster
+{
     QVector<double> transform; ///< empty: no georeferencing
     GDALDataType type = GDT_Float64;
     int columns = gridColumns;
