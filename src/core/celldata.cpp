@@ -1,0 +1,83 @@
+#include "core/celldata.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace Zel3D {
+
+namespace {
+
+bool isFinite(const QVector3D& v)
+{
+    return std::isfinite(v.x()) && std::isfinite(v.y()) && std::isfinite(v.z());
+}
+
+} // namespace
+
+CellData::CellData() : Data(1) {}
+
+void CellData::setData(const QVector<QVector3D>& newVertices, const QVector<QVector<unsigned int>>& newCells,
+                       double newStepX, double newStepY)
+{
+    vertices = newVertices;
+    cells = newCells;
+    vertexNormals.fill(QVector3D(), vertices.size());
+    stepX = newStepX;
+    stepY = newStepY;
+    constexpr float infinity = std::numeric_limits<float>::infinity();
+    minimum = QVector3D(infinity, infinity, infinity);
+    maximum = -minimum;
+    for (const QVector3D& v : qAsConst(vertices)) {
+        if (!isFinite(v))
+            continue;
+        for (int k = 0; k < 3; ++k) {
+            minimum[k] = std::min(minimum[k], v[k]);
+            maximum[k] = std::max(maximum[k], v[k]);
+        }
+    }
+    calcNormals();
+}
+
+void CellData::clear()
+{
+    minimum = QVector3D();
+    maximum = QVector3D();
+    cells.resize(0);
+    vertices.resize(0);
+    missing = false;
+}
+
+bool CellData::isEmpty() const
+{
+    return cells.isEmpty();
+}
+
+void CellData::calcNormals()
+{
+    missing = !std::all_of(vertices.cbegin(), vertices.cend(), isFinite);
+    QVector3D* normals = vertexNormals.data();
+    for (const QVector<unsigned int>& cell : qAsConst(cells)) {
+        const int corners = cell.size();
+        if (corners < 3)
+            continue;
+        for (int k = 0; k < corners; ++k) {
+            const int current = int(cell.at(k));
+            const QVector3D& next = vertices.at(int(cell.at((k + 1) % corners)));
+            const QVector3D& previous = vertices.at(int(cell.at((k + corners - 1) % corners)));
+            const QVector3D normal = QVector3D::normal(vertices.at(current), next, previous);
+            // A corner that is missing, or too far away for the arithmetic, leaves no finite normal.
+            if (isFinite(normal))
+                normals[current] += normal;
+        }
+    }
+    for (QVector3D& normal : vertexNormals)
+        normal.normalize();
+}
+
+bool CellData::isMissing(unsigned int vertex) const
+{
+    return !isFinite(vertices.at(int(vertex)));
+}
+
+} // namespace Zel3D

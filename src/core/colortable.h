@@ -1,0 +1,54 @@
+#pragma once
+
+#include "core/export.h"
+
+#include <QColor>
+#include <QGradient>
+
+#include <array>
+#include <cstddef>
+#include <vector>
+
+namespace Zel3D {
+
+/// Turns a value into a colour by looking it up among the stops of a gradient.
+class VORANPLOT_EXPORT ColorTable
+{
+public:
+    /// A table without stops: every colour is invalid.
+    ColorTable() = default;
+    /// A table of stops sorted by position. Pass what gradientStops() gives: QGradient invents stops for a
+    /// gradient that has none.
+    explicit ColorTable(const QGradientStops& stops);
+
+    bool isEmpty() const { return count == 0; }
+    int getStopCount() const { return count; }
+
+    /// The colour of a value, with the stops spread from minimum to maximum.
+    ///
+    /// Strictly inside the range the red, green, blue and alpha of the two enclosing stops (0 to 255) are
+    /// interpolated linearly and truncated; a value at or below the minimum takes the first stop's colour,
+    /// one at or above the maximum the last stop's. A single stop colours everything. The colour is invalid
+    /// without stops, for a value that is not a number, beyond the last stop, and before the first stop where
+    /// the continued first segment leaves the colours.
+    QColor colorAt(double value, double minimum, double maximum) const;
+
+private:
+    // Two neighbouring stops at different positions.
+    struct Segment
+    {
+        double begin;
+        double width;
+        std::array<double, 4> from;
+        std::array<double, 4> change;
+    };
+    std::size_t find(double position) const;
+
+    std::vector<Segment> segments;
+    std::vector<double> ends; // of the segments
+    QColor first;
+    QColor last;
+    int count = 0;
+};
+
+} // namespace Zel3D

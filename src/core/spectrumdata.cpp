@@ -1,0 +1,67 @@
+#include "core/spectrumdata.h"
+
+#include "core/tofloat.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace Zel3D {
+
+namespace {
+
+struct Range
+{
+    double lower = std::numeric_limits<double>::infinity();
+    double upper = -std::numeric_limits<double>::infinity();
+
+    void widen(double value)
+    {
+        lower = std::min(lower, value);
+        upper = std::max(upper, value);
+    }
+};
+
+} // namespace
+
+SpectrumData::SpectrumData() : Data(2) {}
+
+void SpectrumData::setData(const Map& data)
+{
+    if (&data != &spectrum)
+        spectrum = data;
+    Range outer;
+    Range inner;
+    Range height;
+    bool seeded = false;
+    for (const auto& [position, values] : spectrum) {
+        outer.widen(position);
+        if (!seeded && !values.empty()) {
+            inner.widen(position);
+            seeded = true;
+        }
+        for (const auto& [key, value] : values) {
+            inner.widen(key);
+            if (std::isfinite(value))
+                height.widen(value);
+        }
+    }
+    const Range& x = axis == YAxis ? inner : outer;
+    const Range& y = axis == YAxis ? outer : inner;
+    minimum = QVector3D(toFloat(x.lower), toFloat(y.lower), toFloat(height.lower));
+    maximum = QVector3D(toFloat(x.upper), toFloat(y.upper), toFloat(height.upper));
+}
+
+void SpectrumData::clear()
+{
+    minimum = QVector3D();
+    maximum = QVector3D();
+    spectrum.clear();
+}
+
+bool SpectrumData::isEmpty() const
+{
+    return spectrum.empty();
+}
+
+} // namespace Zel3D

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "core/data.h"
+#include "core/types.h"
+
+#include <map>
+
+namespace Zel3D {
+
+/// A family of spectra: the outer key is the position of a spectrum along the axis, the inner key the
+/// position along the other horizontal axis, the inner value the height z.
+///
+/// A height that is not finite is a hole: it widens no bounding box; its keys do.
+class VORANPLOT_EXPORT SpectrumData : public Data
+{
+public:
+    using Map = std::map<double, std::map<double, double>>;
+
+    /// No spectra, along x.
+    SpectrumData();
+
+    /// The axis of the outer key, XAxis or YAxis. The box stays until the next setData().
+    void setAxis(BaseAxisType newAxis) { axis = newAxis; }
+    BaseAxisType getAxis() const { return axis; }
+
+    /// Stores the spectra and computes the box; the steps stay.
+    ///
+    /// Along the inner key the box always contains the outer key of the first spectrum that is not empty,
+    /// too. What has no value at all runs from +infinity to -infinity.
+    void setData(const Map& data);
+    const Map& getSpectrum() const { return spectrum; }
+
+    void clear() override;
+    bool isEmpty() const override;
+
+    /// The number of spectra.
+    unsigned int columns() const { return unsigned(spectrum.size()); }
+    /// Always 0: spectra need not have the same length.
+    unsigned int rows() const { return 0; }
+
+private:
+    BaseAxisType axis = XAxis;
+    Map spectrum;
+};
+
+} // namespace Zel3D
