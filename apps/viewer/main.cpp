@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr QSize usualSize(1000, 750);
+constexpr QSize usualPicture(1000, 750);
 
 void describeApplication()
 {
@@ -32,7 +32,7 @@ int takePicture(const CommandLine& wanted)
     GridFile reader(wanted.file());
     if (!reader.read(grid, wanted.band()))
         return refuse(reader.error());
-    const QSize size = wanted.size().value_or(usualSize);
+    const QSize size = wanted.size().value_or(usualPicture);
     ViewerPlot plot;
     plot.resize(size / plot.devicePixelRatioF());
     if (wanted.style())

@@ -52,6 +52,7 @@ ViewerPlot::ViewerPlot(QWidget* parent)
     setCylinderRibNumber(4);
     setDotSize(3.0);
     setDotSmooth(true);
+    setKeepProportions(true);
     lightFromNorthWest();
     resetView();
 }
@@ -91,7 +92,22 @@ void ViewerPlot::resetView()
     setRotation(StartView::rotation());
     setShift({0.0, 0.0, 0.0});
     setViewportShift({0.0, 0.0});
-    setZoom(StartView::zoom(getHull(), getScale(), getRotation(), startPart));
+    fit();
+}
+
+void ViewerPlot::fit()
+{
+    const double aspect = double(std::max(width(), 1)) / std::max(height(), 1);
+    setZoom(StartView::zoom(getHull(), getScale(), getRotation(), aspect, startPart));
+    m_fittedZoom = getZoom();
+}
+
+void ViewerPlot::resizeEvent(QResizeEvent* event)
+{
+    // Until the person zooms, the data fill the window.
+    if (getZoom() == m_fittedZoom)
+        fit();
+    SHPlot::resizeEvent(event);
 }
 
 int ViewerPlot::plotStyle() const

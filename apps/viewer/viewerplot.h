@@ -18,21 +18,25 @@ public:
     bool load(Grid& grid);
     /// Puts rotation, shift and zoom back to the start view, without repainting.
     void resetView();
-    /// The plot as it would look at this size in device pixels, whatever the screen shows of it; a null image
-    /// when the driver has no room for it. Needs no window, makes its own context current.
+    /// The plot at this size in device pixels, which has the widget's proportions, whatever the screen shows
+    /// of it; a null image when the driver has no room for it. Needs no window, makes its own context
+    /// current.
     QImage picture(const QSize& pixels);
     int plotStyle() const;
     /// As the base class does; the density of drawn nodes follows the style.
     bool setPlotStyle(int style) override;
 
 protected:
+    void resizeEvent(QResizeEvent* event) override;
     /// Terrain is drawn flatter than a cube.
     Zel3D::ValueXYZ<double> recalculateAutoScale() override;
 
 private:
+    void fit();
     void lightFromNorthWest();
     void adaptResolution(int style);
 
     int m_columns = 0;
     int m_rows = 0;
+    double m_fittedZoom = 0.0;
 };

@@ -15,12 +15,14 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
 
 namespace {
 
 constexpr char geometryKey[] = "window/geometry";
+constexpr QSize usualSize(1000, 800);
 constexpr char folderKey[] = "window/folder";
 
 QString droppedFile(const QMimeData& data)
@@ -56,7 +58,8 @@ ViewerWindow::ViewerWindow()
     createPlotMenu();
     connect(m_plot, &ViewerPlot::plotStyleChanged, this, &ViewerWindow::showStyle);
     showStyle(m_plot->plotStyle());
-    restoreGeometry(QSettings().value(geometryKey).toByteArray());
+    if (!restoreGeometry(QSettings().value(geometryKey).toByteArray()))
+        resize(usualSize.boundedTo(QGuiApplication::primaryScreen()->availableSize()));
 }
 
 void ViewerWindow::createFileMenu()

@@ -58,28 +58,36 @@ void TestStartView::zoomFillsThePart_data()
 {
     QTest::addColumn<ValueXYZ<double>>("scale");
     QTest::addColumn<ValueXYZ<double>>("rotation");
-    QTest::addColumn<double>("reach"); // of the farthest corner from the middle, across or up
+    QTest::addColumn<double>("aspect");
+    QTest::addColumn<double>("reach"); // of the farthest corner, in halves of the cube that the camera shows
     const double diagonal = std::sqrt(2.0);
-    QTest::newRow("front") << ValueXYZ<double>{1, 1, 1} << ValueXYZ<double>{0, 0, 0} << 1.0;
+    QTest::newRow("front") << ValueXYZ<double>{1, 1, 1} << ValueXYZ<double>{0, 0, 0} << 1.0 << 1.0;
+    QTest::newRow("wide window shows more across")
+        << ValueXYZ<double>{4, 1, 1} << ValueXYZ<double>{0, 0, 0} << 2.0 << 2.0;
+    QTest::newRow("wide window, high box")
+        << ValueXYZ<double>{4, 1, 3} << ValueXYZ<double>{0, 0, 0} << 2.0 << 3.0;
+    QTest::newRow("tall window shows more upwards")
+        << ValueXYZ<double>{1, 1, 4} << ValueXYZ<double>{0, 0, 0} << 0.5 << 2.0;
     QTest::newRow("turned about the upright")
-        << ValueXYZ<double>{1, 1, 1} << ValueXYZ<double>{0, 0, 45} << diagonal;
+        << ValueXYZ<double>{1, 1, 1} << ValueXYZ<double>{0, 0, 45} << 1.0 << diagonal;
     QTest::newRow("from above, longer in y")
-        << ValueXYZ<double>{1, 3, 9} << ValueXYZ<double>{90, 0, 0} << 3.0;
+        << ValueXYZ<double>{1, 3, 9} << ValueXYZ<double>{90, 0, 0} << 1.0 << 3.0;
     QTest::newRow("from the front, longer in y")
-        << ValueXYZ<double>{1, 3, 2} << ValueXYZ<double>{0, 0, 0} << 2.0;
-    QTest::newRow("tilted") << ValueXYZ<double>{1, 1, 1} << ValueXYZ<double>{45, 0, 0} << diagonal;
+        << ValueXYZ<double>{1, 3, 2} << ValueXYZ<double>{0, 0, 0} << 1.0 << 2.0;
+    QTest::newRow("tilted") << ValueXYZ<double>{1, 1, 1} << ValueXYZ<double>{45, 0, 0} << 1.0 << diagonal;
 }
 
 void TestStartView::zoomFillsThePart()
 {
     QFETCH(ValueXYZ<double>, scale);
     QFETCH(ValueXYZ<double>, rotation);
+    QFETCH(double, aspect);
     QFETCH(double, reach);
     const Parallelepiped box{QVector3D(9, 9, 9), QVector3D(11, 11, 11)};
-    const double zoom = StartView::zoom(box, scale, rotation, 0.5);
-    // The camera sees as far as the box's own corner, the root of 3, from the middle to each edge.
+    const double zoom = StartView::zoom(box, scale, rotation, aspect, 0.5);
+    // The camera sees as far as the box's own corner, the root of 3, from the middle to the nearer edges.
     QVERIFY2(std::abs(zoom * reach / std::sqrt(3.0) - 0.5) < 1e-5, qPrintable(QString::number(zoom)));
-    QCOMPARE(StartView::zoom(Parallelepiped(), scale, rotation, 0.5), 1.0);
+    QCOMPARE(StartView::zoom(Parallelepiped(), scale, rotation, aspect, 0.5), 1.0);
 }
 
 void TestStartView::thinningLeavesAFewNodes_data()
