@@ -4,7 +4,7 @@
 #include "view/glscopes.h"
 #include "view/opengl.h"
 
-#include <QGLContext>
+#include <QOpenGLContext>
 #include <QSettings>
 
 #include <cmath>
@@ -108,7 +108,7 @@ unsigned int Light::getGLIndex() const
 
 bool Light::canSend()
 {
-    if (ownContext && QGLContext::currentContext() == ownContext)
+    if (ownContext && QOpenGLContext::currentContext() == ownContext)
         return true;
     pending = true;
     return false;
@@ -116,7 +116,7 @@ bool Light::canSend()
 
 void Light::init()
 {
-    ownContext = QGLContext::currentContext();
+    ownContext = QOpenGLContext::currentContext();
     if (!ownContext)
         return;
     setLightPosition(position);
@@ -132,8 +132,10 @@ void Light::init()
 
 void Light::apply()
 {
-    if (pending || QGLContext::currentContext() != ownContext)
+    if (pending || QOpenGLContext::currentContext() != ownContext)
         init();
+    if (!ownContext)
+        return;
     if (isOn())
         glEnable(getGLIndex());
     else

@@ -4,11 +4,12 @@
 
 #include <QColor>
 #include <QObject>
+#include <QPointer>
 #include <QVector3D>
 
 #include <array>
 
-class QGLContext;
+class QOpenGLContext;
 
 namespace Zel3D {
 
@@ -109,6 +110,7 @@ public:
     /// Sends the whole light to the current context and makes it the light's own. Without a context: nothing.
     void init();
     /// Switches the light on or off in the current context; sends before what could not be sent earlier.
+    /// Without a context: nothing.
     void apply();
     /// Draws the marker at the light's position; the model-view matrix stands at the centre of the scene.
     void draw();
@@ -191,8 +193,8 @@ private:
     std::array<double, 3> attenuation{1.0, 0.0, 0.1}; ///< constant, linear, quadratic
     double markerHeight = 0.5;
     double markerGap = 0.1; ///< distance of the body from the light's position, as a fraction of the height
-    double markerRadius = 0.4; ///< radius of the body, as a fraction of the height
-    const QGLContext* ownContext = nullptr;
+    double markerRadius = 0.4;           ///< radius of the body, as a fraction of the height
+    QPointer<QOpenGLContext> ownContext; ///< null once the context is gone, so that none is mistaken for it
     bool pending = true;
     std::array<Material, 2> material; ///< front, back
 };

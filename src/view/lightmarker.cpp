@@ -28,6 +28,7 @@ void setEmission(const QColor& color)
 
 void Light::draw()
 {
+    const AttributeScope attributes(GL_LINE_BIT | GL_CURRENT_BIT);
     const ModelViewScope matrix;
     glTranslatef(position.x(), position.y(), position.z());
     rotateOnto(getSpotDirection() - position);

@@ -64,7 +64,10 @@ void ZelGLWidget::mouseMoveEvent(QMouseEvent* event)
 void ZelGLWidget::mouseReleaseEvent(QMouseEvent* event)
 {
     mousePressed = false;
-    if (autoRotate && (std::abs(dragStep.x) > deltaVelocity || std::abs(dragStep.y) > deltaVelocity))
+    // Without a step there is nothing to go on with, even where the threshold is negative.
+    const bool moved = dragStep.x != 0.0 || dragStep.y != 0.0;
+    const bool fast = std::abs(dragStep.x) > deltaVelocity || std::abs(dragStep.y) > deltaVelocity;
+    if (autoRotate && moved && fast)
         autoRotationTimer->start();
     QGLWidget::mouseReleaseEvent(event);
 }
