@@ -1,0 +1,568 @@
+#include "harness/harness.h"
+#include "plotfixture.h"
+#include "view/light.h"
+
+#include <QSettings>
+#include <QtTest>
+
+using namespace Zel3D;
+using namespace fixture;
+
+using Record = BasePlot::BasePlotSettings;
+using Change = std::function<bool(Record&)>;
+Q_DECLARE_METATYPE(Change)
+
+namespace {
+
+constexpr auto absentAxis = BaseAxisType(3);
+
+/// A record with the three axes that a plot gives it.
+class PlotRecord : public Record
+{
+public:
+    PlotRecord()
+    {
+        for (BaseAxisType axis : {XAxis, YAxis, ZAxis})
+            getAxes().addAxis(axis, BasePlot::BaseAxesSettings(Linear));
+    }
+    void save(const QString& prefix = "plot") { saveSettings(prefix, organization, application); }
+    void load(const QString& prefix = "plot") { loadSettings(prefix, organization, application); }
+};
+
+QMap<QString, QGradient> gradients(std::initializer_list<QString> names)
+{
+    QMap<QString, QGradient> all;
+    for (const QString& name : names)
+        all.insert(name, ramp());
+    return all;
+}
+
+using Entries = QMap<QString, QVariant>;
+
+Entries stored()
+{
+    const QSettings store(organization, application);
+    Entries entries;
+    for (const QString& key : store.allKeys())
+        entries.insert(key, store.value(key));
+    return entries;
+}
+
+void write(const QString& key, const QVariant& value)
+{
+    QSettings(organization, application).setValue(key, value);
+}
+
+/// Every key that a record with gradients "Default", "empty" and "warm" writes, with a value of its type that
+/// is not the default.
+Entries layout()
+{
+    return {{"plot/resolution", 3},
+            {"plot/style", 5},
+            {"plot/shadingStyle", 0},
+            {"plot/polygonOffset", 1.5},
+            {"plot/viewProjection", 2},
+            {"plot/mesh/lineWidth", 2.5},
+            {"plot/mesh/color", QColor(1, 2, 3, 4)},
+            {"plot/mesh/smooth", true},
+            {"plot/mesh/xVisible", false},
+            {"plot/mesh/yVisible", false},
+            {"plot/normals/visible", true},
+            {"plot/normals/quality", 7.5},
+            {"plot/normals/length", 0.25},
+            {"plot/dot/size", 4.0},
+            {"plot/dot/smooth", true},
+            {"plot/cylinder/ribNumber", 6},
+            {"plot/cylinder/radius", 0.75},
+            {"plot/cylinder/frameVisible", true},
+            {"plot/cylinder/angleZ", 30.0},
+            {"plot/gradients/names", QStringList{"Default", "empty", "warm"}},
+            {"plot/gradients/empty/size", 0},
+            {"plot/gradients/warm/size", 2},
+            {"plot/gradients/warm/0/pos", 0.0},
+            {"plot/gradients/warm/0/color", QColor(0, 0, 0)},
+            {"plot/gradients/warm/1/pos", 1.0},
+            {"plot/gradients/warm/1/color", QColor(200, 100, 50)},
+            {"plot/gradients/current", "warm"},
+            {"plot/axis0/scale0/minor", 11U},
+            {"plot/axis0/scale0/major", 12U},
+            {"plot/axis0/scale1/minor", 13U},
+            {"plot/axis0/scale1/major", 14U},
+            {"plot/axis1/scale0/minor", 15U},
+            {"plot/axis1/scale0/major", 16U},
+            {"plot/axis1/scale1/minor", 17U},
+            {"plot/axis1/scale1/major", 18U},
+            {"plot/axis2/scale0/minor", 19U},
+            {"plot/axis2/scale0/major", 20U},
+            {"plot/axis2/scale1/minor", 21U},
+            {"plot/axis2/scale1/major", 22U}};
+}
+
+/// Gives a record the values of layout() through its setters.
+void changeEverything(Record& r)
+{
+    QVERIFY(r.setResolution(3) && r.setStyle(5) && r.setShadingStyle(FlatShading));
+    QVERIFY(r.setPolygonOffset(1.5) && r.setViewProjection(BottomProjection));
+    QVERIFY(r.getMesh().setLineWidth(2.5) && r.getMesh().setColor(QColor(1, 2, 3, 4)));
+    QVERIFY(r.getMesh().setSmooth(true) && r.getMesh().setXVisible(false) && r.getMesh().setYVisible(false));
+    QVERIFY(r.getNormals().setVisible(true) && r.getNormals().setQuality(7.5));
+    QVERIFY(r.getNormals().setLength(0.25));
+    QVERIFY(r.getDot().setSize(4.0) && r.getDot().setSmooth(true));
+    QVERIFY(r.getCylinder().setParameters(6, 0.75, true, 30.0));
+    QMap<QString, QGradient> all = gradients({"Default", "warm"});
+    all.insert("empty", QLinearGradient());
+    QVERIFY(r.getGradients().setData("warm", all));
+    unsigned int count = 11;
+    for (BaseAxisType axis : {XAxis, YAxis, ZAxis}) {
+        for (ScaleType scale : {Linear, Logarithmic}) {
+            QVERIFY(r.getAxes().setMinorInterval(axis, scale, count++));
+            QVERIFY(r.getAxes().setMajorInterval(axis, scale, count++));
+        }
+    }
+}
+
+} // namespace
+
+class TestSettings : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init() { harness::clearStore(); }
+    void defaults();
+    void everyKeyIsWrittenAsItStands();
+    void everyKeyIsRead();
+    void onlyMarkedRecordsAreWritten_data();
+    void onlyMarkedRecordsAreWritten();
+    void rejectedAndEqualValuesChangeNothing_data();
+    void rejectedAndEqualValuesChangeNothing();
+    void resetClearsAllFlagsButThatOfTheGradients();
+    void loadingTakesValuesAsTheyStand();
+    void loadingMarksNothing();
+    void gradientLists_data();
+    void gradientLists();
+    void builtInGradientIsListedOnly();
+    void prefixWithAPlaceholder();
+    void scaleTypesKeepTheirDivisions();
+    void absentAxes();
+    void freshPlotWritesOnlyTheSwitch_data();
+    void freshPlotWritesOnlyTheSwitch();
+    void wholePlotComesBack();
+    void loadedScaleFollowsTheSwitch_data();
+    void loadedScaleFollowsTheSwitch();
+};
+
+void TestSettings::defaults()
+{
+    PlotRecord r;
+    QCOMPARE(r.getResolution(), 1);
+    QCOMPARE(r.getStyle(), 0);
+    QCOMPARE(r.getShadingStyle(), SmoothShading);
+    QCOMPARE(r.getPolygonOffset(), 0.0);
+    QCOMPARE(r.getViewProjection(), NoProjection);
+    QCOMPARE(r.getMesh().getLineWidth(), 1.0);
+    QCOMPARE(r.getMesh().getColor(), QColor(Qt::black));
+    QVERIFY(!r.getMesh().isSmooth() && r.getMesh().isXVisible() && r.getMesh().isYVisible());
+    QVERIFY(!r.getNormals().isVisible());
+    QCOMPARE(r.getNormals().getQuality(), 10.0);
+    QCOMPARE(r.getNormals().getLength(), 0.05);
+    QCOMPARE(r.getDot().getSize(), 1.0);
+    QVERIFY(!r.getDot().isSmooth());
+    QCOMPARE(r.getCylinder().getRibNumber(), 10);
+    QCOMPARE(r.getCylinder().getRadius(), 0.05);
+    QVERIFY(!r.getCylinder().isFrameVisible());
+    QCOMPARE(r.getCylinder().getAngleZ(), 45.0);
+    QCOMPARE(r.getCylinder().getMultiplier(), 1.0);
+    QVERIFY(r.getGradients().getGradients().isEmpty() && r.getGradients().getCurrent().isEmpty());
+    for (BaseAxisType axis : {XAxis, YAxis, ZAxis}) {
+        QCOMPARE(r.getAxes().getMinorInterval(axis), 1U);
+        QCOMPARE(r.getAxes().getMajorInterval(axis), 10U);
+        QCOMPARE(r.getAxes().getMinorIntervals(axis), (QList<unsigned>{1, 2, 3, 4, 5, 6, 7, 8, 9, 10}));
+        QCOMPARE(r.getAxes().getMinorInterval(axis, Logarithmic), 2U);
+        QCOMPARE(r.getAxes().getMajorInterval(axis, Logarithmic), 10U);
+        QCOMPARE(r.getAxes().getMinorIntervals(axis, Logarithmic), (QList<unsigned>{2, 3, 5, 9}));
+    }
+    // The first offered count replaces the minor one only where both counts are set.
+    QCOMPARE(BasePlot::SingleAxesSettings(2, 0, {7}).minor, 2U);
+    QCOMPARE(BasePlot::SingleAxesSettings(0, 2, {7}).minor, 0U);
+}
+
+void TestSettings::everyKeyIsWrittenAsItStands()
+{
+    PlotRecord r;
+    changeEverything(r);
+    r.save();
+    const Entries written = stored();
+    const Entries expected = layout();
+    QCOMPARE(written.keys(), expected.keys());
+    for (auto it = expected.cbegin(); it != expected.cend(); ++it) {
+        QVERIFY2(written.value(it.key()).userType() == it->userType(), qPrintable(it.key()));
+        QVERIFY2(written.value(it.key()) == *it, qPrintable(it.key()));
+    }
+}
+
+void TestSettings::everyKeyIsRead()
+{
+    const Entries expected = layout();
+    for (auto it = expected.cbegin(); it != expected.cend(); ++it)
+        write(it.key(), *it);
+    PlotRecord wanted;
+    changeEverything(wanted);
+    PlotRecord r;
+    r.load();
+    QCOMPARE(r.getResolution(), 3);
+    QCOMPARE(r.getStyle(), 5);
+    QCOMPARE(r.getShadingStyle(), FlatShading);
+    QCOMPARE(r.getPolygonOffset(), 1.5);
+    QCOMPARE(r.getViewProjection(), BottomProjection);
+    QCOMPARE(r.getMesh().getLineWidth(), 2.5);
+    QCOMPARE(r.getMesh().getColor(), QColor(1, 2, 3, 4));
+    QVERIFY(r.getMesh().isSmooth() && !r.getMesh().isXVisible() && !r.getMesh().isYVisible());
+    QVERIFY(r.getNormals().isVisible());
+    QCOMPARE(r.getNormals().getQuality(), 7.5);
+    QCOMPARE(r.getNormals().getLength(), 0.25);
+    QCOMPARE(r.getDot().getSize(), 4.0);
+    QVERIFY(r.getDot().isSmooth());
+    QCOMPARE(r.getCylinder().getRibNumber(), 6);
+    QCOMPARE(r.getCylinder().getRadius(), 0.75);
+    QVERIFY(r.getCylinder().isFrameVisible());
+    QCOMPARE(r.getCylinder().getAngleZ(), 30.0);
+    QCOMPARE(r.getGradients().getGradients().keys(), QStringList{"warm"});
+    QCOMPARE(r.getGradients().getGradients().value("warm").stops(), ramp().stops());
+    QCOMPARE(r.getGradients().getCurrent(), QString("warm"));
+    for (BaseAxisType axis : {XAxis, YAxis, ZAxis}) {
+        for (ScaleType scale : {Linear, Logarithmic}) {
+            const QString key = QString("plot/axis%1/scale%2/").arg(int(axis)).arg(int(scale));
+            QCOMPARE(r.getAxes().getMinorInterval(axis, scale), expected[key + "minor"].toUInt());
+            QCOMPARE(r.getAxes().getMajorInterval(axis, scale), expected[key + "major"].toUInt());
+        }
+    }
+}
+
+void TestSettings::onlyMarkedRecordsAreWritten_data()
+{
+    QTest::addColumn<Change>("change");
+    QTest::addColumn<QString>("pattern"); // of all keys that belong to the record
+    QTest::newRow("nothing") << Change([](Record&) { return true; }) << "$^";
+    QTest::newRow("the plot's own") << Change([](Record& r) { return r.setStyle(4); }) << "plot/[a-zA-Z]*$";
+    QTest::newRow("mesh") << Change([](Record& r) { return r.getMesh().setXVisible(false); }) << "plot/mesh/";
+    QTest::newRow("normals") << Change([](Record& r) { return r.getNormals().setLength(0.1); })
+                             << "plot/normals/";
+    QTest::newRow("dot") << Change([](Record& r) { return r.getDot().setSmooth(true); }) << "plot/dot/";
+    QTest::newRow("cylinder") << Change([](Record& r) { return r.getCylinder().setAngleZ(0.0); })
+                              << "plot/cylinder/";
+    QTest::newRow("axes") << Change([](Record& r) {
+        return r.getAxes().setAxesScaleType(YAxis, Logarithmic);
+    }) << "plot/axis";
+    QTest::newRow("current gradient") << Change([](Record& r) { return r.getGradients().setCurrent("x"); })
+                                      << "plot/gradients/(names|current)";
+    QTest::newRow("gradients one by one") << Change([](Record& r) {
+        return r.getGradients().addGradient("warm", ramp()) && r.getGradients().setGradient("cold", ramp()) &&
+               !r.getGradients().addGradient("warm", plain(Qt::red)) &&
+               r.getGradients().getCurrent() == "cold";
+    }) << "$^";
+}
+
+void TestSettings::onlyMarkedRecordsAreWritten()
+{
+    QFETCH(Change, change);
+    QFETCH(QString, pattern);
+    PlotRecord r;
+    QVERIFY(change(r));
+    r.save();
+    QCOMPARE(stored().keys(), layout().keys().filter(QRegularExpression(pattern)));
+    // Saving clears no flag.
+    harness::clearStore();
+    r.save();
+    QCOMPARE(stored().keys(), layout().keys().filter(QRegularExpression(pattern)));
+}
+
+void TestSettings::rejectedAndEqualValuesChangeNothing_data()
+{
+    QTest::addColumn<Change>("change");
+    const auto row = [](const char* name, const Change& change) { QTest::newRow(name) << change; };
+    row("resolution 0", [](Record& r) { return r.setResolution(0); });
+    row("resolution as it is", [](Record& r) { return r.setResolution(1); });
+    row("line width negative", [](Record& r) { return r.getMesh().setLineWidth(-1.0); });
+    row("line width not a number", [](Record& r) { return r.getMesh().setLineWidth(qQNaN()); });
+    row("mesh colour as it is", [](Record& r) { return r.getMesh().setColor(Qt::black); });
+    row("ribs 2", [](Record& r) { return r.getCylinder().setRibNumber(2); });
+    row("radius negative", [](Record& r) { return r.getCylinder().setRadius(-0.5); });
+    row("radius not a number", [](Record& r) { return r.getCylinder().setRadius(qQNaN()); });
+    row("opacity 101", [](Record& r) { return r.getCylinder().setOpacity(101); });
+    row("gradients as they are", [](Record& r) { return r.getGradients().setGradients({}); });
+    row("gradients and name as they are", [](Record& r) { return r.getGradients().setData("", {}); });
+    row("scale as it is", [](Record& r) { return r.getAxes().setAxesScaleType(XAxis, Linear); });
+    row("minor as it is", [](Record& r) { return r.getAxes().setMinorInterval(XAxis, Linear, 1); });
+    row("absent axis", [](Record& r) { return r.getAxes().setMajorInterval(absentAxis, Linear, 5); });
+    row("absent scale", [](Record& r) {
+        BasePlot::BaseAxesSettings linearOnly;
+        linearOnly.scales.remove(Logarithmic);
+        r.getAxes().addAxis(YAxis, linearOnly);
+        return r.getAxes().setMinorInterval(YAxis, Logarithmic, 5);
+    });
+    row("scale of an absent axis",
+        [](Record& r) { return r.getAxes().setAxesScaleType(absentAxis, Logarithmic); });
+}
+
+void TestSettings::rejectedAndEqualValuesChangeNothing()
+{
+    QFETCH(Change, change);
+    PlotRecord r;
+    QVERIFY(!change(r));
+    r.save();
+    QVERIFY(stored().isEmpty());
+    // A line width of 0 is no rejected value, nor is a minor count that is not offered.
+    QVERIFY(r.getMesh().setLineWidth(0.0));
+    QVERIFY(r.getAxes().setMinorInterval(XAxis, Linear, 99));
+}
+
+void TestSettings::resetClearsAllFlagsButThatOfTheGradients()
+{
+    PlotRecord r;
+    changeEverything(r);
+    r.resetNeedSave();
+    r.save();
+    QCOMPARE(stored().keys(), layout().keys().filter("/gradients/"));
+}
+
+void TestSettings::loadingTakesValuesAsTheyStand()
+{
+    write("plot/resolution", 0);
+    write("plot/style", "five");
+    write("plot/shadingStyle", 7);
+    write("plot/mesh/lineWidth", -2.0);
+    write("plot/mesh/color", 17.5);
+    write("plot/dot/size", -1.0);
+    write("plot/cylinder/ribNumber", 1);
+    write("plot/axis1/scale1/minor", 0U);
+    write("plot/axis3/scale0/minor", 5U);
+    PlotRecord r;
+    QVERIFY(r.setStyle(3));
+    r.load();
+    QCOMPARE(r.getResolution(), 0);
+    QCOMPARE(r.getStyle(), 0);
+    QCOMPARE(int(r.getShadingStyle()), 7);
+    QCOMPARE(r.getMesh().getLineWidth(), -2.0);
+    QVERIFY(!r.getMesh().getColor().isValid());
+    QCOMPARE(r.getDot().getSize(), -1.0);
+    QCOMPARE(r.getCylinder().getRibNumber(), 1);
+    QCOMPARE(r.getAxes().getMinorInterval(YAxis, Logarithmic), 0U);
+    QCOMPARE(r.getAxes().getMinorInterval(absentAxis, Linear), 0U);
+}
+
+void TestSettings::loadingMarksNothing()
+{
+    const Entries entries = layout();
+    for (auto it = entries.cbegin(); it != entries.cend(); ++it)
+        write(it.key(), *it);
+    PlotRecord r;
+    r.load();
+    harness::clearStore();
+    r.save();
+    QVERIFY(stored().isEmpty());
+}
+
+void TestSettings::gradientLists_data()
+{
+    QTest::addColumn<QStringList>("names");
+    QTest::addColumn<QStringList>("held");
+    QTest::addColumn<QString>("current");
+    QTest::newRow("empty list: the current one stays") << QStringList() << QStringList{"mine"} << "mine";
+    QTest::newRow("one more") << QStringList{"warm"} << QStringList{"mine", "warm"} << "warm";
+    QTest::newRow("without stops") << QStringList{"empty"} << QStringList{"mine"} << "warm";
+    QTest::newRow("listed, nothing else stored") << QStringList{"lost"} << QStringList{"mine"} << "warm";
+    QTest::newRow("the built-in one is not read") << QStringList{"Default"} << QStringList{"mine"} << "warm";
+}
+
+void TestSettings::gradientLists()
+{
+    QFETCH(QStringList, names);
+    QFETCH(QStringList, held);
+    QFETCH(QString, current);
+    const Entries entries = layout();
+    for (auto it = entries.cbegin(); it != entries.cend(); ++it)
+        write(it.key(), *it);
+    write("plot/gradients/Default/size", 1);
+    write("plot/gradients/names", names);
+    PlotRecord r;
+    QVERIFY(r.getGradients().setGradient("mine", ramp()));
+    r.load();
+    QCOMPARE(r.getGradients().getGradients().keys(), held);
+    QCOMPARE(r.getGradients().getCurrent(), current);
+}
+
+void TestSettings::builtInGradientIsListedOnly()
+{
+    PlotRecord r;
+    QVERIFY(r.getGradients().setGradients(gradients({"Default"})));
+    QVERIFY(!r.getGradients().setGradients(gradients({"Default"})));
+    // No stops are not the black and white that Qt invents for them.
+    QMap<QString, QGradient> explicitly;
+    explicitly.insert("Default", QLinearGradient());
+    QVERIFY(r.getGradients().setGradients(explicitly));
+    explicitly["Default"].setStops({{0.0, Qt::black}, {1.0, Qt::white}});
+    QVERIFY(r.getGradients().setGradients(explicitly));
+    r.save();
+    QCOMPARE(stored().keys(), (QStringList{"plot/gradients/current", "plot/gradients/names"}));
+}
+
+void TestSettings::prefixWithAPlaceholder()
+{
+    PlotRecord r;
+    QVERIFY(r.setResolution(2));
+    QVERIFY(r.getGradients().setGradients(gradients({"warm"})));
+    QVERIFY(r.getAxes().setMinorInterval(ZAxis, Logarithmic, 3));
+    r.save("p%1");
+    const Entries entries = stored();
+    for (const char* key : {"p%1/resolution", "pwarm/gradients/warm/size", "pwarm/gradients/warm/1/pos",
+                            "p2/axis2/scale1/minor"})
+        QVERIFY2(entries.contains(key), key);
+    PlotRecord loaded;
+    loaded.load("p%1");
+    QCOMPARE(loaded.getAxes().getMinorInterval(ZAxis, Logarithmic), 3U);
+    QCOMPARE(loaded.getGradients().getGradients().value("warm").stops(), ramp().stops());
+}
+
+void TestSettings::scaleTypesKeepTheirDivisions()
+{
+    Plot plot;
+    const BasePlot::AxesSettings& axes = plot.getSettings().getAxes();
+    QVERIFY(plot.setMinorInterval(XAxis, Linear, 4) && plot.setMajorInterval(XAxis, Linear, 6));
+    QVERIFY(plot.setMinorInterval(XAxis, Logarithmic, 9) && plot.setMajorInterval(XAxis, Logarithmic, 3));
+    QVERIFY(plot.setAxesScaleType(XAxis, Logarithmic));
+    QCOMPARE(axes.getMinorInterval(XAxis), 9U);
+    QCOMPARE(axes.getMajorInterval(XAxis), 3U);
+    QCOMPARE(axes.getMinorIntervals(XAxis), (QList<unsigned>{2, 3, 5, 9}));
+    QVERIFY(plot.setAxesScaleType(XAxis, Linear));
+    QCOMPARE(axes.getMinorInterval(XAxis), 4U);
+    QCOMPARE(axes.getMajorInterval(XAxis), 6U);
+    QCOMPARE(axes.getMinorInterval(YAxis), 1U);
+}
+
+void TestSettings::absentAxes()
+{
+    const BasePlot::AxesSettings none;
+    QCOMPARE(none.getAxesScaleType(ZAxis), Linear);
+    QCOMPARE(none.getMinorInterval(ZAxis), 0U);
+    QCOMPARE(none.getMajorInterval(ZAxis, Logarithmic), 0U);
+    QVERIFY(none.getMinorIntervals(ZAxis).isEmpty());
+}
+
+void TestSettings::freshPlotWritesOnlyTheSwitch_data()
+{
+    QTest::addColumn<bool>("shown");
+    QTest::newRow("not shown") << false;
+    QTest::newRow("shown without data") << true;
+}
+
+void TestSettings::freshPlotWritesOnlyTheSwitch()
+{
+    QFETCH(bool, shown);
+    Plot plot;
+    QVERIFY(!shown || harness::show(plot, 100, 100));
+    plot.slotSaveSettings();
+    QStringList rest = stored().keys();
+    for (const char* key : {"backgroundColor",
+                            "autoRotate",
+                            "deltaVelocity",
+                            "rotationX",
+                            "rotationY",
+                            "rotationZ",
+                            "shiftX",
+                            "shiftY",
+                            "shiftZ",
+                            "viewportShiftX",
+                            "viewportShiftY",
+                            "scaleX",
+                            "scaleY",
+                            "scaleZ",
+                            "zoom",
+                            "projectionType",
+                            "lighting",
+                            "selecting",
+                            "dataColor/id",
+                            "dataColor/size",
+                            "dataColor/0/pos",
+                            "dataColor/0/color",
+                            "dataColor/1/pos",
+                            "dataColor/1/color"})
+        QVERIFY2(rest.removeOne(QString("plot/") + key), key);
+    for (int i = rest.size() - 1; i >= 0; --i) {
+        if (rest.at(i).startsWith("plot/light"))
+            rest.removeAt(i);
+    }
+    QCOMPARE(rest, QStringList{"plot/autoScaling"});
+    QCOMPARE(stored().value("plot/autoScaling"), QVariant(true));
+}
+
+void TestSettings::wholePlotComesBack()
+{
+    Heights heights(4, 3, plane);
+    Plot plot;
+    QVERIFY(heights.into(plot));
+    changeEverything(plot.settingsRecord());
+    plot.setRotation({10.0, 20.0, 30.0});
+    plot.setBackgroundColor(QColor(10, 20, 30));
+    plot.setGradient("warm", ramp());
+    QVERIFY(plot.setAutoScaling(false));
+    plot.setScale({2.0, 3.0, 0.25});
+    QVERIFY(harness::show(plot, 120, 120));
+    const QImage before = harness::grab(plot);
+    plot.slotSaveSettings();
+
+    Plot other;
+    other.setGradient("other", plain(Qt::green));
+    QVERIFY(heights.into(other));
+    QVERIFY(harness::show(other, 120, 120));
+    QVERIFY(harness::grab(other) != before);
+    other.slotLoadSettings();
+    QCOMPARE(harness::grab(other), before);
+    QVERIFY(!other.isAutoScaling());
+    QCOMPARE(other.getScale().z, 0.25);
+    // What a plot writes unasked is what it read.
+    const Entries first = stored();
+    harness::clearStore();
+    other.slotSaveSettings();
+    const Entries view = stored();
+    for (auto it = view.cbegin(); it != view.cend(); ++it)
+        QVERIFY2(first.value(it.key()) == *it, qPrintable(it.key()));
+    QVERIFY(view.contains("plot/dataColor/1/color"));
+}
+
+void TestSettings::loadedScaleFollowsTheSwitch_data()
+{
+    QTest::addColumn<bool>("before");
+    QTest::addColumn<bool>("loaded");
+    QTest::addColumn<double>("scaleX");
+    // Over a box of 4 by 2 by 4 the automatic scale is (1, 2, 1).
+    QTest::newRow("on, stays on: the box decides") << true << true << 1.0;
+    QTest::newRow("switched on: the box decides") << false << true << 1.0;
+    QTest::newRow("switched off: as loaded") << true << false << 5.0;
+    QTest::newRow("off, stays off: as loaded") << false << false << 5.0;
+}
+
+void TestSettings::loadedScaleFollowsTheSwitch()
+{
+    QFETCH(bool, before);
+    QFETCH(bool, loaded);
+    QFETCH(double, scaleX);
+    write("plot/scaleX", 5.0);
+    write("plot/autoScaling", loaded);
+    Heights heights(5, 3, [](int i, int) { return double(i); });
+    Plot plot;
+    plot.setAutoScaling(before);
+    QVERIFY(heights.into(plot));
+    plot.slotLoadSettings();
+    QCOMPARE(plot.getScale().x, scaleX);
+    QCOMPARE(plot.isAutoScaling(), loaded);
+    // What was loaded is the user's scale: new data do not change it.
+    QVERIFY(Heights(3, 3, plane).into(plot));
+    QCOMPARE(plot.getScale().x == 5.0, !loaded);
+}
+
+int main(int argc, char* argv[])
+{
+    return harness::run<TestSettings>(argc, argv);
+}
+
+#include "tst_settings.moc"
