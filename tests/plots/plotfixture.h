@@ -4,6 +4,7 @@
 #include "plots/shplot.h"
 
 #include <QColor>
+#include <QImage>
 #include <QString>
 #include <QVector>
 
@@ -81,6 +82,17 @@ public:
 inline double plane(int column, int row)
 {
     return column + 10.0 * row;
+}
+
+/// How many pixels of a picture have a colour.
+inline int pixels(const QImage& image, const QColor& color)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            count += image.pixelColor(x, y).rgb() == color.rgb() ? 1 : 0;
+    }
+    return count;
 }
 
 } // namespace fixture
