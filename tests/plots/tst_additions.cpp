@@ -4,6 +4,7 @@
 #include "plots/arrowaddition.h"
 #include "plots/dotaddition.h"
 #include "plots/sphereaddition.h"
+#include "scene/basedraw.h"
 
 #include <GL/gl.h>
 
@@ -89,10 +90,8 @@ class TestAdditions : public QObject
 private slots:
     void initTestCase();
     void init();
-    void pointStateIsAppliedAndPutBack_data();
     void pointStateIsAppliedAndPutBack();
-    void pointColours();
-    void pickingDrawsAPrimitiveForEachPoint();
+    void pointsAreOnePrimitiveDrawnAndOneEachPicked();
     void withoutAPlotNothingIsDrawn();
     void sphereStandsAtThePoint();
     void arrowEndsAtItsEndPoint_data();
@@ -103,7 +102,6 @@ private slots:
     void cylinderReachesFromTheBaseLevel();
     void cylinderFillsItsCell();
     void cylinderFrameAndOpacity();
-    void cylinderPutsTheFrontFaceBack();
     void onlyChangedValuesAreWritten();
     void clonesAreIndependent();
 
@@ -126,72 +124,44 @@ void TestAdditions::init()
     glFrontFace(GL_CCW);
 }
 
-void TestAdditions::pointStateIsAppliedAndPutBack_data()
-{
-    QTest::addColumn<bool>("smoothBefore");
-    QTest::addColumn<bool>("smooth");
-    for (int i = 0; i < 4; ++i)
-        QTest::addRow("%s over %s", i & 1 ? "round" : "square", i & 2 ? "round" : "square")
-            << bool(i & 2) << bool(i & 1);
-}
-
 void TestAdditions::pointStateIsAppliedAndPutBack()
 {
-    QFETCH(bool, smoothBefore);
-    QFETCH(bool, smooth);
-    glPointSize(2.5F);
-    smoothBefore ? glEnable(GL_POINT_SMOOTH) : glDisable(GL_POINT_SMOOTH);
-    const QVector<float> before = pointState();
-    Dot dot(6.0, smooth);
-    dot.setPlot(*plot);
-    dot.begin();
-    QCOMPARE(pointState(), (QVector<float>{6.0F, smooth ? 1.0F : 0.0F}));
-    dot.end();
-    QCOMPARE(pointState(), before);
-    GLRecorder recorder;
-    dot.drawBegin();
-    dot.draw(QVector3D(1.0F, 2.0F, 3.0F));
-    dot.draw(QVector3D(4.0F, 5.0F, 6.0F));
-    dot.drawEnd();
-    QCOMPARE(pointState(), before);
-    QCOMPARE(recorder.primitives().size(), 1);
-    QCOMPARE(recorder.primitives(GL_POINTS).at(0).vertices.size(), 2);
+    for (int i = 0; i < 4; ++i) {
+        glPointSize(2.5F);
+        BaseDraw::setGLEnable(GL_POINT_SMOOTH, i >= 2);
+        const QVector<float> before = pointState();
+        Dot dot(6.0, i % 2);
+        dot.begin();
+        QCOMPARE(pointState(), (QVector<float>{6.0F, float(i % 2)}));
+        dot.end();
+        QCOMPARE(pointState(), before);
+    }
     glDisable(GL_POINT_SMOOTH);
 }
 
-void TestAdditions::pointColours()
+void TestAdditions::pointsAreOnePrimitiveDrawnAndOneEachPicked()
 {
     Dot dot;
     DotAddition fixed(1.0, false, QColor(10, 20, 30, 40));
-    GLRecorder recorder;
-    for (BaseDot* each : {static_cast<BaseDot*>(&dot), static_cast<BaseDot*>(&fixed)}) {
-        each->setPlot(*plot);
-        each->drawBegin();
-        each->draw(QVector3D(7.0F, 8.0F, 5.0F));
-        each->drawEnd();
-    }
-    const auto byData = recorder.primitives().at(0).vertices.at(0);
-    QCOMPARE(byData.color, channels(QColor(100, 50, 25)));
-    QCOMPARE(byData.position, (Point{7.0, 8.0, 5.0}));
-    QCOMPARE(recorder.primitives().at(1).vertices.at(0).color, channels(QColor(10, 20, 30, 40)));
-}
-
-void TestAdditions::pickingDrawsAPrimitiveForEachPoint()
-{
-    Dot dot;
-    DotAddition fixed(1.0, false, Qt::red);
     dot.setPlot(*plot);
+    const QVector3D p(1.0F, 2.0F, 5.0F);
     GLRecorder recorder;
-    dot.select(QVector3D(1.0F, 2.0F, 5.0F));
-    dot.selectProjection(QVector3D(1.0F, 2.0F, 5.0F), 9.0);
-    fixed.select(QVector3D(3.0F, 4.0F, 6.0F));
-    QCOMPARE(recorder.primitives(GL_POINTS).size(), 3);
-    QCOMPARE(recorder.primitives().at(0).vertices.at(0).position, (Point{1.0, 2.0, 5.0}));
-    // The projection keeps the colour of the point that it shows.
-    const auto projected = recorder.primitives().at(1).vertices.at(0);
-    QCOMPARE(projected.position, (Point{1.0, 2.0, 9.0}));
-    QCOMPARE(projected.color, channels(QColor(100, 50, 25)));
-    QCOMPARE(recorder.primitives().at(2).vertices.at(0).position, (Point{3.0, 4.0, 6.0}));
+    dot.drawBegin();
+    dot.draw(p);
+    dot.draw(p);
+    dot.drawEnd();
+    dot.select(p);
+    dot.selectProjection(p, 9.0);
+    fixed.select(p);
+    const auto all = recorder.primitives(GL_POINTS);
+    QCOMPARE(all.size(), 4);
+    const int counts[] = {2, 1, 1, 1};
+    for (int i = 0; i < all.size(); ++i) {
+        QCOMPARE(all[i].vertices.size(), counts[i]);
+        // The projection keeps the colour of the point that it shows.
+        QCOMPARE(all[i].vertices[0].position, (Point{1.0, 2.0, i == 2 ? 9.0 : 5.0}));
+        QCOMPARE(all[i].vertices[0].color, channels(i < 3 ? QColor(100, 50, 25) : QColor(10, 20, 30, 40)));
+    }
 }
 
 void TestAdditions::withoutAPlotNothingIsDrawn()
@@ -294,10 +264,15 @@ void TestAdditions::cylinderIsClosed()
     QFETCH(float, z);
     CylinderAddition cylinder(ribs, 0.5, false, 20.0);
     cylinder.setPlot(*plot);
+    glFrontFace(GL_CW);
     GLRecorder recorder;
     cylinder.drawBegin();
     cylinder.draw(QVector3D(1.0F, 2.0F, z));
     cylinder.drawEnd();
+    QVERIFY(recorder.indexOf(QString("glFrontFace(%1)").arg(GL_CCW)) < recorder.indexOf("glBegin"));
+    int front = 0;
+    glGetIntegerv(GL_FRONT_FACE, &front);
+    QCOMPARE(front, GL_CW);
     const auto all = faces(recorder);
     QCOMPARE(int(all.size()), ribs + 2);
     // Every edge belongs to two faces that run along it in opposite directions.
@@ -369,7 +344,8 @@ void TestAdditions::cylinderFillsItsCell()
         cylinder.drawBegin();
         cylinder.draw(QVector3D(2.0F, 8.0F, 3.0F));
         std::set<std::pair<double, double>> result;
-        for (const auto& vertex : recorder.primitives(GL_POLYGON).at(0).vertices)
+        const auto caps = recorder.primitives(GL_POLYGON);
+        for (const auto& vertex : caps.at(0).vertices)
             result.insert(
                 {std::round(vertex.position[0] * 1e6) / 1e6, std::round(vertex.position[1] * 1e6) / 1e6});
         return result;
@@ -399,20 +375,6 @@ void TestAdditions::cylinderFrameAndOpacity()
     }
     QCOMPARE(ribs[0].color, channels(plot->getSettings().getMesh().getColor()));
     QVERIFY(qAbs(recorder.primitives(GL_QUADS).at(0).vertices.at(0).color[3] - 0.5) < 0.01);
-}
-
-void TestAdditions::cylinderPutsTheFrontFaceBack()
-{
-    CylinderAddition cylinder(4, 0.5, false, 0.0);
-    cylinder.setPlot(*plot);
-    glFrontFace(GL_CW);
-    GLRecorder recorder;
-    cylinder.drawBegin();
-    cylinder.draw(QVector3D(0.0F, 0.0F, 5.0F));
-    QVERIFY(recorder.indexOf(QString("glFrontFace(%1)").arg(GL_CCW)) < recorder.indexOf("glBegin"));
-    int face = 0;
-    glGetIntegerv(GL_FRONT_FACE, &face);
-    QCOMPARE(face, GL_CW);
 }
 
 void TestAdditions::onlyChangedValuesAreWritten()
@@ -458,19 +420,11 @@ void TestAdditions::clonesAreIndependent()
     arrow.draw(QVector3D());
     copy->draw(QVector3D());
     QCOMPARE(recorder.count("gluCylinder"), 2);
-    SphereAddition sphere(1.0, Qt::red, 4, 3);
-    CylinderAddition cylinder(6, 1.0, true, 5.0);
     DotAddition dot(3.0, true, Qt::blue);
-    const std::unique_ptr<Addition> copies[] = {std::unique_ptr<Addition>(sphere.clone()),
-                                                std::unique_ptr<Addition>(cylinder.clone()),
-                                                std::unique_ptr<Addition>(dot.clone())};
-    sphere.setRadius(2.0);
-    cylinder.setRibNumber(8);
+    const std::unique_ptr<Addition> same(dot.clone());
     dot.setSize(9.0);
-    QCOMPARE(dynamic_cast<SphereAddition&>(*copies[0]).getRadius(), 1.0);
-    QCOMPARE(dynamic_cast<CylinderAddition&>(*copies[1]).getRibNumber(), 6);
-    QCOMPARE(dynamic_cast<DotAddition&>(*copies[2]).getSize(), 3.0);
-    QCOMPARE(dynamic_cast<DotAddition&>(*copies[2]).getColor(), QColor(Qt::blue));
+    QCOMPARE(dynamic_cast<DotAddition&>(*same).getSize(), 3.0);
+    QCOMPARE(dynamic_cast<DotAddition&>(*same).getColor(), QColor(Qt::blue));
 }
 
 int main(int argc, char* argv[])

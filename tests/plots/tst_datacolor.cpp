@@ -15,9 +15,7 @@ private slots:
     void init() { harness::clearStore(); }
     void rangeIsAskedOfThePlotAtEveryLookUp_data();
     void rangeIsAskedOfThePlotAtEveryLookUp();
-    void onlyTheHeightDecides();
     void storeLayout();
-    void loadDropsWhatWasThere_data();
     void loadDropsWhatWasThere();
     void plotDrawsWithTheLoadedColours();
 };
@@ -48,15 +46,7 @@ void TestDataColor::rangeIsAskedOfThePlotAtEveryLookUp()
     QCOMPARE(color(0.0, 0.0, 5.0), QColor(100, 50, 25));
     plot.setGradientRange({first, second});
     QCOMPARE(color(0.0, 0.0, 5.0), ofFive);
-}
-
-void TestDataColor::onlyTheHeightDecides()
-{
-    Plot plot;
-    plot.setGradientRange({0.0, 10.0});
-    const DataColor& color = *plot.getDataColor();
-    QCOMPARE(color(99.0, -99.0, 5.0), color(0.0, 0.0, 5.0));
-    QCOMPARE(color(QVector3D(1.0F, 2.0F, 5.0F)), QColor(100, 50, 25));
+    QCOMPARE(color(QVector3D(9.0F, -9.0F, 5.0F)), ofFive);
 }
 
 void TestDataColor::storeLayout()
@@ -82,26 +72,17 @@ void TestDataColor::storeLayout()
     QCOMPARE(loaded.getGradient().stops(), gradient.stops());
 }
 
-void TestDataColor::loadDropsWhatWasThere_data()
-{
-    QTest::addColumn<QVariant>("size");
-    QTest::newRow("nothing stored") << QVariant();
-    QTest::newRow("no stops") << QVariant(0);
-    QTest::newRow("negative") << QVariant(-3);
-    QTest::newRow("not a number") << QVariant("many");
-}
-
 void TestDataColor::loadDropsWhatWasThere()
 {
-    QFETCH(QVariant, size);
-    if (size.isValid())
-        QSettings(organization, application).setValue("plot/dataColor/size", size);
     Plot plot;
-    DataColor color(&plot, "warm", ramp());
-    color.loadSettings("plot", organization, application);
-    QVERIFY(color.isEmpty());
-    QVERIFY(color.getId().isEmpty());
-    QVERIFY(!color(0.0, 0.0, 0.0).isValid());
+    for (const QVariant& size : {QVariant(), QVariant(0), QVariant(-3), QVariant("many")}) {
+        if (size.isValid())
+            QSettings(organization, application).setValue("plot/dataColor/size", size);
+        DataColor color(&plot, "warm", ramp());
+        color.loadSettings("plot", organization, application);
+        QVERIFY(color.isEmpty() && color.getId().isEmpty());
+        QVERIFY(!color(0.0, 0.0, 0.0).isValid());
+    }
 }
 
 void TestDataColor::plotDrawsWithTheLoadedColours()
