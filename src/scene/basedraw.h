@@ -75,6 +75,9 @@ public:
     QVector3D relativePosition(QVector3D p);
 
 protected:
+    /// Reads the viewport and both matrices. Needs a current context.
+    void fetchMatrices();
+
     bool needSave = false;
     QString name;
     bool visible = false;
@@ -83,8 +86,6 @@ protected:
     std::array<int, 4> viewport{};
 
 private:
-    void fetchMatrices();
-
     struct GLState {
         bool lineSmooth = false;
         bool polygonSmooth = false;
