@@ -56,6 +56,7 @@ public:
     /// Returns whether the flag changed; a change marks the object for saving.
     bool setVisible(bool on);
     bool isSaveNeeded() const { return needSave; }
+    void markForSaving() { needSave = true; }
 
     /// glEnable when \a on is not zero, else glDisable.
     static void setGLEnable(unsigned int capability, unsigned char on);
