@@ -7,6 +7,8 @@
 #include "plots/addition.h"
 #include "plots/autoscaling.h"
 #include "plots/baseplotsettings.h"
+#include "scene/coordinatesystem.h"
+#include "scene/title.h"
 #include "view/glmode.h"
 #include "view/glscopes.h"
 
@@ -35,10 +37,20 @@ constexpr unsigned int listState = GL_ENABLE_BIT | GL_LINE_BIT | GL_POINT_BIT | 
 BasePlot::BasePlot(const QString& name, const QString& organizationName, const QString& applicationName,
                    QWidget* parent, const QGLWidget* shareWidget, Qt::WindowFlags flags)
     : ZelGLWidget(name, organizationName, applicationName, parent, shareWidget, flags),
+      coordinateSystem(std::make_unique<CoordinateSystem>(QVector3D(), QVector3D())),
+      title(std::make_unique<Title>()),
+      edges(std::make_unique<EdgeChoice>()),
       settings(std::make_unique<BasePlotSettings>())
 {
     for (BaseAxisType axis : {XAxis, YAxis, ZAxis})
         settings->getAxes().addAxis(axis, BaseAxesSettings(Linear));
+    applyIntervals();
+    // What a plot is built with needs no saving.
+    for (int i = 0; i < 12; ++i) {
+        Axis::Settings& axis = coordinateSystem->getAxis(AxisType(i)).getSettings();
+        axis.getMajor().resetNeedSave();
+        axis.getMinor().resetNeedSave();
+    }
     setMouseTracking(true);
     BasePlot::setAutoScaling(true);
     setDataColor(new DataColor(this, QString(), QLinearGradient()));
@@ -87,19 +99,37 @@ void BasePlot::initializeGL()
     updateSelection();
 }
 
-void BasePlot::drawWithoutTransform() {}
+void BasePlot::drawWithoutTransform()
+{
+    title->setPixelRatio(devicePixelRatioF());
+    title->draw();
+}
 
 void BasePlot::draw()
 {
     rebuildWhatChanged();
     warnWithoutGradient();
     const ModelViewScope matrix;
-    const AttributeScope attributes(listState);
-    if (isLighting())
-        glEnable(GL_NORMALIZE);
     applyShading();
-    for (const DisplayList& list : drawingLists)
-        list.call();
+    {
+        const AttributeScope attributes(listState);
+        if (isLighting())
+            glEnable(GL_NORMALIZE);
+        for (const DisplayList& list : drawingLists)
+            list.call();
+    }
+    drawCoordinateSystem();
+}
+
+void BasePlot::drawCoordinateSystem()
+{
+    coordinateSystem->setPixelRatio(devicePixelRatioF());
+    coordinateSystem->setViewScale(getScale());
+    if (automaticEdges) {
+        *edges = chooseEdges(currentViewFrame(), first(), second(), edges.get());
+        coordinateSystem->setVisibleEdges(*edges);
+    }
+    coordinateSystem->draw();
 }
 
 void BasePlot::select()
@@ -147,12 +177,12 @@ void BasePlot::setData(Data* container)
 
 QVector3D BasePlot::first()
 {
-    return corners.minimum;
+    return coordinateSystem->getFirst();
 }
 
 QVector3D BasePlot::second()
 {
-    return corners.maximum;
+    return coordinateSystem->getSecond();
 }
 
 void BasePlot::updateData()
@@ -288,10 +318,9 @@ void BasePlot::updateLegend() {}
 
 void BasePlot::createCoordinateSystem(const QVector3D& firstCorner, const QVector3D& secondCorner)
 {
-    const Parallelepiped box{firstCorner, secondCorner};
-    if (box == corners)
+    if (Parallelepiped{firstCorner, secondCorner} == Parallelepiped{first(), second()})
         return;
-    corners = box;
+    coordinateSystem->init(firstCorner, secondCorner);
     setLightsHeight(double((secondCorner - firstCorner).length()) * 0.5 / 10.0);
     updateLights();
 }
@@ -325,10 +354,34 @@ ValueXYZ<double> BasePlot::recalculateAutoScale()
 
 void BasePlot::updateAutoScale()
 {
-    setScalingAllowed(!autoScaling);
-    if (autoScaling)
+    setScalingAllowed(boxScaling == ManualScaling);
+    switch (boxScaling) {
+    case CubeScaling:
         automaticScale = recalculateAutoScale();
-    setScale(autoScaling ? automaticScale : userScale);
+        setScale(automaticScale);
+        break;
+    case EqualUnits:
+        setScale({1.0, 1.0, 1.0});
+        break;
+    case ManualScaling:
+        setScale(userScale);
+        break;
+    }
+}
+
+void BasePlot::applyIntervals(BaseAxisType axis)
+{
+    const AxesSettings& division = settings->getAxes();
+    coordinateSystem->setMinorInterval(axis, int(division.getMinorInterval(axis)));
+    coordinateSystem->setMajorInterval(axis, int(division.getMajorInterval(axis)));
+}
+
+void BasePlot::applyIntervals()
+{
+    for (BaseAxisType axis : {XAxis, YAxis, ZAxis}) {
+        coordinateSystem->setScale(axis, settings->getAxes().getAxesScaleType(axis));
+        applyIntervals(axis);
+    }
 }
 
 ValueXYZ<double> BasePlot::getAutoScaleInverse() const
@@ -357,6 +410,8 @@ bool BasePlot::removeAddition(Addition* addition)
 void BasePlot::resetNeedSave()
 {
     settings->resetNeedSave();
+    title->resetNeedSave();
+    coordinateSystem->resetNeedSave();
 }
 
 void BasePlot::keyPressEvent(QKeyEvent* event)

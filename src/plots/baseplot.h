@@ -15,8 +15,11 @@
 namespace Zel3D {
 
 class Addition;
+class CoordinateSystem;
 class Data;
 class DataColor;
+class Title;
+struct EdgeChoice;
 
 /// The widget that every plot is: the view plus data colouring, additions, display lists, automatic scaling
 /// and the plot's own settings. The subclass supplies the data and the geometry of each plot style.
@@ -58,6 +61,15 @@ public:
     const Parallelepiped& getFixedHull() const { return fixedHull; }
     const Pair<double>& getGradientRange() const { return gradientRange; }
     bool isAutoScaling() const { return autoScaling; }
+    BoxScaling getBoxScaling() const { return boxScaling; }
+    bool isAutomaticEdges() const { return automaticEdges; }
+    bool isLogarithmicData(BaseAxisType axis) const { return logarithmicData[std::size_t(axis)]; }
+    /// What stands around the data, owned by the plot. Changes show at the next paint; the intervals and
+    /// scales of the axes are changed through the plot.
+    CoordinateSystem& getCoordinateSystem() { return *coordinateSystem; }
+    const CoordinateSystem& getCoordinateSystem() const { return *coordinateSystem; }
+    Title& getTitle() { return *title; }
+    const Title& getTitle() const { return *title; }
     /// The proportions that undo the last automatic scale; see AutoScaling::inverseOf().
     ValueXYZ<double> getAutoScaleInverse() const;
     /// Height of the contour plot: the data's maximum z for the top plane, minimum z for the bottom, else 0.
@@ -86,8 +98,20 @@ public:
     bool setMajorInterval(BaseAxisType axis, ScaleType scale, int count);
     /// Keeps the gradient under the name, makes it the current one and colours the data with it; no signal.
     bool setGradient(const QString& name, const QGradient& gradient);
-    /// On: the hull is drawn as a cube and the user cannot scale. Off: back to the scale before. No signal.
+    /// On: the hull is drawn as a cube and the user cannot scale. Off: back to the scale before. Only
+    /// boxScalingChanged() follows.
     bool setAutoScaling(bool on);
+    /// How the scale of the view comes about; CubeScaling is automatic scaling.
+    bool setBoxScaling(BoxScaling scaling);
+    /// A set of Grid bits: the faces of the box with grid lines.
+    bool setGridStyle(int faces);
+    /// On, the default: for each direction the one edge on the outline of the box where numbers are easiest
+    /// to read shows its axis, as the view turns. Off: the set of axes stays as it is and is the host's.
+    bool setAutomaticEdges(bool on);
+    /// On: the plain values of a direction become decimal exponents while data are loaded, and its scale
+    /// logarithmic. Values at or below zero are then missing. Holds from the next load on. No signal of its
+    /// own.
+    bool setLogarithmicData(BaseAxisType axis, bool on);
     /// @}
 
     /// Takes ownership; the previous colouring is deleted. Null draws nothing.
@@ -102,6 +126,7 @@ public:
     /// Stores the box of the data, rescales and updates the legend. False when it is the stored one, which
     /// updates the legend alone.
     bool setHull(const Parallelepiped& box);
+    /// Tells the legend the range of the colours.
     void updateLegend();
     /// Takes the box as the scene's corners and places the lights; nothing when it has these corners.
     void createCoordinateSystem(const QVector3D& firstCorner, const QVector3D& secondCorner);
@@ -145,9 +170,14 @@ public:
 public slots:
     virtual void slotSetResolution(int step);
     virtual void slotSetPlotStyle(int style);
+    /// Repaints on a change, initialised or not, and emits nothing.
+    virtual void slotSetGridStyle(int faces);
     virtual void slotSetShadingStyle(Zel3D::ShadingStyle style);
     virtual void slotShowNormals(bool on);
     virtual void slotSetAutoScaling(bool on);
+    /// Sets the title's text; no repaint.
+    virtual void slotSetTitle(const QString& text);
+    void slotSetBoxScaling(Zel3D::BoxScaling scaling);
 
 public:
     /// Switches the kind of container that is drawn; see Data::getDataType().
@@ -176,6 +206,7 @@ protected:
 
 signals:
     void plotStyleChanged(int style);
+    void gridStyleChanged(int faces);
     void normalsChanged(bool visible);
     void resolutionChanged(int step);
     void polygonOffsetChanged(double factor);
@@ -195,6 +226,8 @@ signals:
     void minorIntervalChanged(unsigned int count);
     void majorIntervalChanged(unsigned int count);
     void axesScaleChanged(Zel3D::ScaleType scale);
+    void boxScalingChanged(Zel3D::BoxScaling scaling);
+    void automaticEdgesChanged(bool on);
 
 protected:
     void initializeGL() override;
@@ -219,6 +252,9 @@ private:
     void rebuildWhatChanged();
     void warnWithoutGradient();
     void applyShading() const;
+    void drawCoordinateSystem();
+    void applyIntervals(BaseAxisType axis);
+    void applyIntervals();
 
     Data* data = nullptr;
     std::unique_ptr<DataColor> dataColor;
@@ -234,10 +270,15 @@ private:
     ValueXYZ<double> userScale;
     ValueXYZ<double> automaticScale;
     bool autoScaling = false;
+    BoxScaling boxScaling = ManualScaling;
+    std::unique_ptr<CoordinateSystem> coordinateSystem;
+    std::unique_ptr<Title> title;
+    std::unique_ptr<EdgeChoice> edges; ///< of the last frame, while they are chosen automatically
+    bool automaticEdges = true;
+    std::array<bool, 3> logarithmicData{};
     std::unique_ptr<BasePlotSettings> settings;
     Parallelepiped hull;
     Parallelepiped fixedHull;
-    Parallelepiped corners; ///< of the scene
     Pair<double> gradientRange;
 };
 

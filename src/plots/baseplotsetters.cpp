@@ -4,6 +4,8 @@
 #include "plots/addition.h"
 #include "plots/baseplot.h"
 #include "plots/baseplotsettings.h"
+#include "scene/coordinatesystem.h"
+#include "scene/title.h"
 
 #include <QSettings>
 
@@ -146,13 +148,42 @@ bool BasePlot::setDotSmooth(bool on)
     return true;
 }
 
+bool BasePlot::setGridStyle(int faces)
+{
+    if (!coordinateSystem->getSettings().setGridStyle(faces))
+        return false;
+    emit gridStyleChanged(faces);
+    return true;
+}
+
+bool BasePlot::setAutomaticEdges(bool on)
+{
+    if (automaticEdges == on)
+        return false;
+    automaticEdges = on;
+    emit automaticEdgesChanged(on);
+    return true;
+}
+
+bool BasePlot::setLogarithmicData(BaseAxisType axis, bool on)
+{
+    bool& held = logarithmicData[std::size_t(axis)];
+    if (held == on)
+        return false;
+    held = on;
+    setAxesScaleType(axis, on ? Logarithmic : Linear);
+    return true;
+}
+
 bool BasePlot::setAxesScaleType(BaseAxisType axis, ScaleType type)
 {
     if (!settings->getAxes().setAxesScaleType(axis, type))
         return false;
+    coordinateSystem->setScale(axis, type);
     emit axesScaleChanged(type);
-    setMinorInterval(axis, type, int(settings->getAxes().getMinorInterval(axis, type)));
-    setMajorInterval(axis, type, int(settings->getAxes().getMajorInterval(axis, type)));
+    // The divisions last used with this scale. The records hold them already, so the setters would do
+    // nothing.
+    applyIntervals(axis);
     return true;
 }
 
@@ -160,6 +191,7 @@ bool BasePlot::setMinorInterval(BaseAxisType axis, ScaleType type, int count)
 {
     if (count < 0 || !settings->getAxes().setMinorInterval(axis, type, unsigned(count)))
         return false;
+    coordinateSystem->setMinorInterval(axis, count);
     emit minorIntervalChanged(unsigned(count));
     return true;
 }
@@ -168,6 +200,7 @@ bool BasePlot::setMajorInterval(BaseAxisType axis, ScaleType type, int count)
 {
     if (count < 0 || !settings->getAxes().setMajorInterval(axis, type, unsigned(count)))
         return false;
+    coordinateSystem->setMajorInterval(axis, count);
     emit majorIntervalChanged(unsigned(count));
     return true;
 }
@@ -182,12 +215,19 @@ bool BasePlot::setGradient(const QString& name, const QGradient& gradient)
 
 bool BasePlot::setAutoScaling(bool on)
 {
-    if (autoScaling == on)
+    return autoScaling != on && setBoxScaling(on ? CubeScaling : ManualScaling);
+}
+
+bool BasePlot::setBoxScaling(BoxScaling scaling)
+{
+    if (boxScaling == scaling)
         return false;
-    autoScaling = on;
-    if (autoScaling)
+    if (boxScaling == ManualScaling)
         userScale = getScale();
+    boxScaling = scaling;
+    autoScaling = scaling == CubeScaling;
     updateAutoScale();
+    emit boxScalingChanged(scaling);
     return true;
 }
 
@@ -265,6 +305,23 @@ void BasePlot::slotSetAutoScaling(bool on)
         updateGL();
 }
 
+void BasePlot::slotSetBoxScaling(BoxScaling scaling)
+{
+    if (isInitialized() && setBoxScaling(scaling))
+        updateGL();
+}
+
+void BasePlot::slotSetGridStyle(int faces)
+{
+    if (coordinateSystem->getSettings().setGridStyle(faces))
+        updateGL();
+}
+
+void BasePlot::slotSetTitle(const QString& text)
+{
+    title->getSettings().setText(text);
+}
+
 void BasePlot::saveSettings()
 {
     settings->saveSettings(objectName(), getOrganization(), getApplication());
@@ -272,6 +329,8 @@ void BasePlot::saveSettings()
         QSettings store(getOrganization(), getApplication());
         store.setValue(QString("%0/autoScaling").arg(objectName()), autoScaling);
     }
+    title->saveSettings(objectName(), getOrganization(), getApplication());
+    coordinateSystem->saveSettings(objectName(), getOrganization(), getApplication());
     if (dataColor)
         dataColor->saveSettings(objectName(), getOrganization(), getApplication());
 }
@@ -286,6 +345,9 @@ void BasePlot::loadSettings()
         userScale = getScale();
     if (!setAutoScaling(automatic))
         updateAutoScale();
+    applyIntervals();
+    title->loadSettings(objectName(), getOrganization(), getApplication());
+    coordinateSystem->loadSettings(objectName(), getOrganization(), getApplication());
     if (dataColor) {
         dataColor->loadSettings(objectName(), getOrganization(), getApplication());
         setDataColor(dataColor.get());

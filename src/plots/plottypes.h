@@ -17,7 +17,15 @@ enum ViewProjection : int {
     BottomProjection = 2 ///< shown as "Bottom"
 };
 
+/// How the scale of the view comes about.
+enum BoxScaling {
+    CubeScaling = 0,  ///< automatic scaling: the box of the data is drawn as a cube
+    EqualUnits = 1,   ///< one unit is as long on every axis
+    ManualScaling = 2 ///< by hand: gestures, keys and setScale()
+};
+
 } // namespace Zel3D
 
 Q_DECLARE_METATYPE(Zel3D::ShadingStyle)
 Q_DECLARE_METATYPE(Zel3D::ViewProjection)
+Q_DECLARE_METATYPE(Zel3D::BoxScaling)

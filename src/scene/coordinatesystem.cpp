@@ -57,10 +57,6 @@ CoordinateSystem::CoordinateSystem(QVector3D first, QVector3D second) : axes(axi
         Axis& axis = axes[i];
         axis.setName(QString("axis%0").arg(i));
         axis.setAutomaticTicFormat(true);
-        axis.getSettings().getLine().setVisible(true);
-        axis.getSettings().getTics().setVisible(true);
-        axis.getSettings().getNumbers().setVisible(true);
-        axis.getSettings().resetNeedSave();
         append(&axis);
     }
     init(first, second);
@@ -281,6 +277,8 @@ void CoordinateSystem::drawMinorGridLines()
 template <class PairRoutine>
 void CoordinateSystem::drawGridLines(double width, int style, PairRoutine drawPair)
 {
+    if (settings.getGridStyle() == 0)
+        return;
     // The edges of a face need not show an axis, and only a drawn axis brings its ticks up to date.
     for (Axis& axis : axes)
         axis.updateTics();

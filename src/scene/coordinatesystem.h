@@ -56,7 +56,7 @@ public:
         int minorLineStyle = 0xFFFF;
     };
 
-    /// All axes are in the list of children and show line, ticks and numbers.
+    /// All axes are in the list of children; their lines, ticks and numbers are invisible until switched on.
     CoordinateSystem(QVector3D first, QVector3D second);
     // The children point into the object.
     CoordinateSystem(const CoordinateSystem&) = delete;

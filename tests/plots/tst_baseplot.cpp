@@ -3,6 +3,7 @@
 #include "plotfixture.h"
 #include "plots/autoscaling.h"
 #include "plots/dotaddition.h"
+#include "scene/coordinatesystem.h"
 #include "view/light.h"
 
 #include <GL/gl.h>
@@ -139,7 +140,11 @@ void TestBasePlot::changesEmitOnceAndRebuildAtTheNextPaint_data()
     row("major", "majorIntervalChanged(4)", 0, [](Plot& p) { return p.setMajorInterval(XAxis, Linear, 4); });
     row("style", "plotStyleChanged(2)", 2, [](Plot& p) { return p.setPlotStyle(2); });
     row("background", "", 1, [](Plot& p) { return p.setBackgroundColor(Qt::gray); });
-    row("automatic scaling", "", 0, [](Plot& p) { return p.setAutoScaling(false); });
+    row("automatic scaling", "boxScalingChanged(2)", 0, [](Plot& p) { return p.setAutoScaling(false); });
+    row("equal units", "boxScalingChanged(1)", 0, [](Plot& p) { return p.setBoxScaling(EqualUnits); });
+    row("grid", "gridStyleChanged(40)", 0, [](Plot& p) { return p.setGridStyle(GridBack | GridBottom); });
+    row("edges", "automaticEdgesChanged(false)", 0, [](Plot& p) { return p.setAutomaticEdges(false); });
+    row("plain values", "axesScaleChanged(1)", 0, [](Plot& p) { return p.setLogarithmicData(XAxis, true); });
     row(
         "gradient", "", 2, [](Plot& p) { return p.setGradient("x", plain(Qt::red)); }, true);
     row(

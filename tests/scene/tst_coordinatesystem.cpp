@@ -77,6 +77,22 @@ bool isOutside(const WindowBox& box, const QRectF& rectangle)
 
 } // namespace
 
+namespace {
+
+/// Lines, ticks and numbers are invisible until switched on.
+void showAxes(CoordinateSystem& box)
+{
+    for (int i = 0; i < 12; ++i) {
+        Axis::Settings& axis = box.getAxis(AxisType(i)).getSettings();
+        axis.getLine().setVisible(true);
+        axis.getTics().setVisible(true);
+        axis.getNumbers().setVisible(true);
+        axis.resetNeedSave();
+    }
+}
+
+} // namespace
+
 class TestCoordinateSystem : public QObject
 {
     Q_OBJECT
@@ -147,6 +163,7 @@ void TestCoordinateSystem::limitsIncreaseAndNumbersAreTrue()
     QFETCH(QVector3D, first);
     QFETCH(QVector3D, second);
     CoordinateSystem box(first, second);
+    showAxes(box);
     prepare(box);
     const float size = (second - first).length() / 100.0F;
     for (int i = 0; i < 12; ++i) {
@@ -172,6 +189,7 @@ void TestCoordinateSystem::limitsIncreaseAndNumbersAreTrue()
 void TestCoordinateSystem::childrenAreTheVisibleAxes()
 {
     CoordinateSystem box(QVector3D(), QVector3D(1, 1, 1));
+    showAxes(box);
     QCOMPARE(box.getChildren().size(), 12);
     box.setAxisVisible(false);
     QVERIFY(box.getChildren().isEmpty());
@@ -194,6 +212,7 @@ void TestCoordinateSystem::childrenAreTheVisibleAxes()
 void TestCoordinateSystem::operationsReachTheAxesOfTheirDirection()
 {
     CoordinateSystem box(QVector3D(), QVector3D(1, 1, 1));
+    showAxes(box);
     box.setMajorInterval(XAxis, 2);
     box.setMajorInterval(YAxis, 3);
     box.setMajorInterval(ZAxis, 4);
@@ -228,6 +247,7 @@ void TestCoordinateSystem::gridLines()
     const QVector3D first(10, 20, 30);
     const QVector3D second(11, 22, 33);
     CoordinateSystem box(first, second);
+    showAxes(box);
     prepare(box);
     box.setAxisVisible(false);
     box.getSettings().setGridStyle(style);
@@ -259,6 +279,7 @@ void TestCoordinateSystem::gridLines()
 void TestCoordinateSystem::gridLinesFollowTheirSettings()
 {
     CoordinateSystem box(QVector3D(), QVector3D(1, 1, 1));
+    showAxes(box);
     prepare(box);
     box.setAxisVisible(false);
     {
@@ -302,6 +323,7 @@ void TestCoordinateSystem::gridLinesFollowTheirSettings()
 void TestCoordinateSystem::gridTicksAndAxesStayInAFlatBox()
 {
     CoordinateSystem box(QVector3D(0, 0, 0), QVector3D(1, 1, 9));
+    showAxes(box);
     prepare(box);
     box.getSettings().setGridStyle(63);
     paintBox(box, {30.0, 40.0}, true);
@@ -322,6 +344,7 @@ void TestCoordinateSystem::gridTicksAndAxesStayInAFlatBox()
 void TestCoordinateSystem::lineWidthsStayInOrder()
 {
     CoordinateSystem box(QVector3D(), QVector3D(1, 1, 1));
+    showAxes(box);
     box.resetNeedSave();
     box.setMajorLineWidth(0.2);
     QCOMPARE(box.getSettings().getMajorLineWidth(), 0.6);
@@ -379,6 +402,7 @@ void TestCoordinateSystem::smoothingAndLightingArePutBack()
     QFETCH(bool, before);
     QFETCH(bool, smooth);
     CoordinateSystem box(QVector3D(), QVector3D(1, 1, 1));
+    showAxes(box);
     prepare(box);
     box.getSettings().setLineSmooth(smooth);
     box.getSettings().setGridStyle(63);
@@ -412,6 +436,7 @@ void TestCoordinateSystem::smoothingAndLightingArePutBack()
 void TestCoordinateSystem::highlightsOnlyVisibleAxes()
 {
     CoordinateSystem box(QVector3D(), QVector3D(1, 1, 1));
+    showAxes(box);
     box.getAxis(XFrontBottom).setHighlighted(true);
     box.getAxis(ZFrontRight).setHighlighted(true);
     box.setAxesVisible(ZFrontRight, false);
@@ -426,6 +451,7 @@ void TestCoordinateSystem::highlightsOnlyVisibleAxes()
 void TestCoordinateSystem::ticksFollowTheViewScale()
 {
     CoordinateSystem box(QVector3D(), QVector3D(1000, 10, 1));
+    showAxes(box);
     const ValueXYZ<double> scale{1.0, 100.0, 1000.0};
     box.setViewScale(scale);
     box.setViewScale(scale);
@@ -464,6 +490,7 @@ void TestCoordinateSystem::textsAreReadableAtEveryCamera()
     QFETCH(double, ratio);
     QVERIFY(harness::show(canvas, size.width(), size.height()));
     CoordinateSystem box(QVector3D(0, 0, -50), QVector3D(10, 20, 50));
+    showAxes(box);
     prepare(box);
     box.setPixelRatio(ratio);
     const QVector3D scale(10, 5, 1);
@@ -494,6 +521,7 @@ void TestCoordinateSystem::textsAreReadableAtEveryCamera()
 void TestCoordinateSystem::warmFramesRenderNothing()
 {
     CoordinateSystem box(QVector3D(), QVector3D(1, 1, 1));
+    showAxes(box);
     prepare(box);
     for (BaseAxisType base : {XAxis, YAxis, ZAxis})
         box.setMajorInterval(base, 10);
@@ -525,6 +553,7 @@ void TestCoordinateSystem::warmFramesRenderNothing()
 void TestCoordinateSystem::persistence()
 {
     CoordinateSystem box(QVector3D(), QVector3D(1, 1, 1));
+    showAxes(box);
     box.resetNeedSave();
     box.saveSettings("plot", organization, application);
     QVERIFY(QSettings(organization, application).allKeys().isEmpty());
