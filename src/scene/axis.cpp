@@ -19,7 +19,6 @@ constexpr int mostMajors = 1000;
 constexpr int mostMinors = 100;
 
 // Logical pixels.
-constexpr double numberGap = 3.0; // from the end of a tick to its number
 constexpr double titleGap = 4.0;  // from the numbers to the title
 constexpr double besideGap = 6.0; // between numbers side by side
 constexpr double aboveGap = 1.0;  // between numbers one above the other, which have room in their boxes

@@ -4,6 +4,9 @@
 
 namespace Zel3D {
 
+/// Logical pixels between the end of a tick and a number that stands outside it.
+constexpr double numberGap = 3.0;
+
 /// A major tick: the value, the text that states it and its place.
 struct AxisTic
 {

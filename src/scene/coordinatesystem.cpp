@@ -98,7 +98,7 @@ void CoordinateSystem::arrange()
         order.append({-std::hypot(to.x - from.x, to.y - from.y), i});
     }
     std::sort(order.begin(), order.end());
-    QVector<QRectF> occupied;
+    QVector<QRectF> occupied = occupiedByOthers;
     for (const QPair<double, int>& entry : qAsConst(order))
         axes[entry.second].arrange(frame, edgeOutward(box, AxisType(entry.second)), false, occupied);
 }

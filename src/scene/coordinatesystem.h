@@ -104,6 +104,10 @@ public:
     /// The scale of the view, by which the ticks get the same length in all directions.
     void setViewScale(const ValueXYZ<double>& scale);
 
+    /// Rectangles of the window, in pixels with y upwards, that others draw over: numbers and titles that
+    /// would meet them are left out or step aside.
+    void setOccupied(const QVector<QRectF>& rectangles) { occupiedByOthers = rectangles; }
+
     void drawMajorGridLines();
     void drawMinorGridLines();
     /// Emits a line from each major tick of a to the edge of b, between glBegin(GL_LINES) and glEnd().
@@ -126,6 +130,7 @@ private:
     QVector3D secondCorner;
     CoordinateSystemSettings settings;
     bool highlight = false;
+    QVector<QRectF> occupiedByOthers;
     ValueXYZ<double> viewScale{1.0, 1.0, 1.0};
 };
 

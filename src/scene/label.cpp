@@ -223,6 +223,12 @@ LabelPlacement Label::getPlacement(const ViewFrame& frame)
     return placeLabel(frame, settings.getPosition(), getBox());
 }
 
+QRectF Label::getRectangle() const
+{
+    const bool shown = visible && placement.visible && !settings.getText().isEmpty() && !settings.isBlank();
+    return shown ? QRectF(placement.corner, image.size()) : QRectF();
+}
+
 LabelBox Label::getBox()
 {
     LabelBox box;

@@ -7,6 +7,7 @@
 #include <QColor>
 #include <QFont>
 #include <QImage>
+#include <QRectF>
 
 class QPainter;
 
@@ -116,6 +117,8 @@ public:
     LabelPlacement getPlacement(const ViewFrame& frame);
     /// The text's place in the window when it was drawn last.
     const LabelPlacement& getPlacement() const { return placement; }
+    /// The text's box in the window when it was drawn last, y upwards; null for a label that shows nothing.
+    QRectF getRectangle() const;
 
     /// The rectangle of the turned text about the origin, in logical pixels. An empty text becomes a single
     /// blank first; a single blank has the rectangle of one blank at the origin.

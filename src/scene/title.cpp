@@ -46,14 +46,28 @@ void Title::saveSettings(const QString& prefix, const QString& organization, con
 void Title::calculate()
 {
     fetchMatrices();
+    placement = placedIn(QRect(viewport[0], viewport[1], viewport[2], viewport[3]));
+}
+
+LabelPlacement Title::placedIn(const QRect& window)
+{
     WindowPoint anchor;
-    anchor.x = viewport[0] + relative.x() * viewport[2];
-    anchor.y = viewport[1] + relative.y() * viewport[3];
+    anchor.x = window.x() + relative.x() * window.width();
+    anchor.y = window.y() + relative.y() * window.height();
     anchor.valid = true;
-    placement = placeLabel(anchor, getBox());
+    LabelPlacement place = placeLabel(anchor, getBox());
     const QSize size = getImageSize();
-    placement.corner.setX(movedInside(placement.corner.x(), size.width(), viewport[0], viewport[2]));
-    placement.corner.setY(movedInside(placement.corner.y(), size.height(), viewport[1], viewport[3]));
+    place.corner.setX(movedInside(place.corner.x(), size.width(), window.x(), window.width()));
+    place.corner.setY(movedInside(place.corner.y(), size.height(), window.y(), window.height()));
+    return place;
+}
+
+double Title::getReservedTop(const QSize& window)
+{
+    if (!visible || getSettings().getText().isEmpty() || getSettings().isBlank() || relative.y() < 0.5)
+        return 0.0;
+    const int lowerEdge = placedIn(QRect(QPoint(0, 0), window)).corner.y();
+    return std::clamp(window.height() - lowerEdge, 0, window.height()) / getPixelRatio();
 }
 
 bool Title::setRelativePosition(QPointF position)

@@ -23,6 +23,10 @@ public:
     /// moves it into the window when it would cross an edge and has room.
     void calculate() override;
 
+    /// How many logical pixels at the top of a window of a size in pixels the title takes: down to its lower
+    /// edge when it shows a text in the upper half, otherwise 0. Needs no context.
+    double getReservedTop(const QSize& window);
+
     /// Fractions of the window's width (from the left) and height (from the bottom); (0.5, 0.95) by default.
     const QPointF& getRelativePosition() const { return relative; }
     /// A coordinate outside 0 to 1 becomes 0.5. Returns whether the position changed; a change marks the
@@ -30,6 +34,8 @@ public:
     bool setRelativePosition(QPointF position);
 
 private:
+    LabelPlacement placedIn(const QRect& window);
+
     QPointF relative = QPointF(0.5, 0.95);
 };
 
