@@ -138,6 +138,37 @@ void GridData::setData(QVector3D** points, unsigned int columns, unsigned int ro
     calcNormals();
 }
 
+int GridData::convertToExponents(const std::array<bool, 3>& directions)
+{
+    const std::size_t count = std::size_t(columns()) * rows();
+    QVector3D low(infinity, infinity, infinity);
+    QVector3D high = -low;
+    int lost = 0;
+    for (double* value = block.get(); value != block.get() + 3 * count; value += 3) {
+        const bool before = std::isfinite(value[0]) && std::isfinite(value[1]) && std::isfinite(value[2]);
+        for (int k = 0; k < 3; ++k) {
+            if (directions[std::size_t(k)])
+                value[k] = value[k] > 0.0 ? std::log10(value[k]) : std::numeric_limits<double>::quiet_NaN();
+        }
+        if (!(std::isfinite(value[0]) && std::isfinite(value[1]) && std::isfinite(value[2]))) {
+            lost += before ? 1 : 0;
+            continue;
+        }
+        for (int k = 0; k < 3; ++k) {
+            low[k] = std::min(low[k], toFloat(value[k]));
+            high[k] = std::max(high[k], toFloat(value[k]));
+        }
+    }
+    minimum = low;
+    maximum = high;
+    if (directions[0] && columns() > 1)
+        stepX = double(high.x() - low.x()) / (columns() - 1);
+    if (directions[1] && rows() > 1)
+        stepY = double(high.y() - low.y()) / (rows() - 1);
+    calcNormals();
+    return lost;
+}
+
 void GridData::clear()
 {
     grid.clear();

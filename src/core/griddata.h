@@ -5,6 +5,7 @@
 
 #include <QVector>
 
+#include <array>
 #include <cmath>
 #include <memory>
 
@@ -85,6 +86,10 @@ public:
     /// the quarter triangles between a node and its neighbours. Call it after writing through
     /// valueVectorAt().
     void calcNormals();
+    /// Replaces the drawn coordinates of the marked directions (x, y, z) by their decimal exponents and
+    /// brings box, steps and normals up to date; select() still reports the plain values. A node with a value
+    /// at or below zero becomes missing. Returns how many nodes became missing.
+    int convertToExponents(const std::array<bool, 3>& directions);
 
     /// Whether the node is a hole.
     bool isMissing(unsigned int column, unsigned int row) const

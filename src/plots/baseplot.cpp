@@ -8,6 +8,7 @@
 #include "plots/autoscaling.h"
 #include "plots/baseplotsettings.h"
 #include "scene/coordinatesystem.h"
+#include "scene/legend.h"
 #include "scene/title.h"
 #include "view/glmode.h"
 #include "view/glscopes.h"
@@ -39,6 +40,7 @@ BasePlot::BasePlot(const QString& name, const QString& organizationName, const Q
     : ZelGLWidget(name, organizationName, applicationName, parent, shareWidget, flags),
       coordinateSystem(std::make_unique<CoordinateSystem>(QVector3D(), QVector3D())),
       title(std::make_unique<Title>()),
+      legend(std::make_unique<Legend>()),
       edges(std::make_unique<EdgeChoice>()),
       settings(std::make_unique<BasePlotSettings>())
 {
@@ -51,6 +53,8 @@ BasePlot::BasePlot(const QString& name, const QString& organizationName, const Q
         axis.getMajor().resetNeedSave();
         axis.getMinor().resetNeedSave();
     }
+    legend->setMinorInterval(2);
+    legend->setMajorInterval(10);
     setMouseTracking(true);
     BasePlot::setAutoScaling(true);
     setDataColor(new DataColor(this, QString(), QLinearGradient()));
@@ -101,8 +105,21 @@ void BasePlot::initializeGL()
 
 void BasePlot::drawWithoutTransform()
 {
-    title->setPixelRatio(devicePixelRatioF());
+    const double ratio = devicePixelRatioF();
+    title->setPixelRatio(ratio);
+    legend->setPixelRatio(ratio);
+    legend->setReservedTop(titleDepth());
+    legend->draw();
     title->draw();
+}
+
+double BasePlot::titleDepth() const
+{
+    const QString& text = title->getSettings().getText();
+    const double fromTop = 1.0 - title->getRelativePosition().y();
+    if (!title->isVisible() || text.trimmed().isEmpty() || fromTop > 0.5)
+        return 0.0;
+    return fromTop * height() + 0.5 * title->getBoundRect().height();
 }
 
 void BasePlot::draw()
@@ -163,6 +180,16 @@ void BasePlot::warnWithoutGradient()
     qWarning(
         "Plot \"%s\": its gradient has no colours, so nothing is drawn; call setGradient(name, gradient).",
         qPrintable(objectName()));
+}
+
+void BasePlot::warnOfLostValues(int count)
+{
+    if (count == 0 || warnedOfLostValues)
+        return;
+    warnedOfLostValues = true;
+    qWarning(
+        "Plot \"%s\": %d points have a value at or below zero in a logarithmic direction; they are missing.",
+        qPrintable(objectName()), count);
 }
 
 bool BasePlot::canDrawData() const
@@ -314,7 +341,11 @@ void BasePlot::setFixedHull(const Parallelepiped& box)
     createCoordinateSystem();
 }
 
-void BasePlot::updateLegend() {}
+void BasePlot::updateLegend()
+{
+    const Pair<double> range = getLegendRange();
+    legend->setLimits(range.first, range.second);
+}
 
 void BasePlot::createCoordinateSystem(const QVector3D& firstCorner, const QVector3D& secondCorner)
 {
@@ -369,17 +400,29 @@ void BasePlot::updateAutoScale()
     }
 }
 
+void BasePlot::applyScale(BaseAxisType axis)
+{
+    const ScaleType type = settings->getAxes().getAxesScaleType(axis);
+    coordinateSystem->setScale(axis, type);
+    if (axis == ZAxis)
+        legend->setScale(type);
+}
+
 void BasePlot::applyIntervals(BaseAxisType axis)
 {
     const AxesSettings& division = settings->getAxes();
     coordinateSystem->setMinorInterval(axis, int(division.getMinorInterval(axis)));
     coordinateSystem->setMajorInterval(axis, int(division.getMajorInterval(axis)));
+    if (axis != ZAxis)
+        return;
+    legend->setMinorInterval(int(division.getMinorInterval(axis)));
+    legend->setMajorInterval(int(division.getMajorInterval(axis)));
 }
 
 void BasePlot::applyIntervals()
 {
     for (BaseAxisType axis : {XAxis, YAxis, ZAxis}) {
-        coordinateSystem->setScale(axis, settings->getAxes().getAxesScaleType(axis));
+        applyScale(axis);
         applyIntervals(axis);
     }
 }
@@ -412,6 +455,7 @@ void BasePlot::resetNeedSave()
     settings->resetNeedSave();
     title->resetNeedSave();
     coordinateSystem->resetNeedSave();
+    legend->resetNeedSave();
 }
 
 void BasePlot::keyPressEvent(QKeyEvent* event)

@@ -18,6 +18,7 @@ class Addition;
 class CoordinateSystem;
 class Data;
 class DataColor;
+class Legend;
 class Title;
 struct EdgeChoice;
 
@@ -70,6 +71,8 @@ public:
     const CoordinateSystem& getCoordinateSystem() const { return *coordinateSystem; }
     Title& getTitle() { return *title; }
     const Title& getTitle() const { return *title; }
+    Legend& getLegend() { return *legend; }
+    const Legend& getLegend() const { return *legend; }
     /// The proportions that undo the last automatic scale; see AutoScaling::inverseOf().
     ValueXYZ<double> getAutoScaleInverse() const;
     /// Height of the contour plot: the data's maximum z for the top plane, minimum z for the bottom, else 0.
@@ -241,6 +244,10 @@ protected:
     Parallelepiped dataBox() const;
     /// Whether there is data, a colouring and at least one stop, so that something can be drawn.
     bool canDrawData() const;
+    /// The directions whose plain values become exponents while loading.
+    const std::array<bool, 3>& getLogarithmicData() const { return logarithmicData; }
+    /// Says once that so many values at or below zero have no exponent.
+    void warnOfLostValues(int count);
     /// Frees the list of the data and additions; the context is made current.
     void removeDataList();
     /// The geometry is compiled again at the next paint.
@@ -253,6 +260,9 @@ private:
     void warnWithoutGradient();
     void applyShading() const;
     void drawCoordinateSystem();
+    /// Logical pixels that the title takes from the top of the window.
+    double titleDepth() const;
+    void applyScale(BaseAxisType axis);
     void applyIntervals(BaseAxisType axis);
     void applyIntervals();
 
@@ -264,6 +274,7 @@ private:
     bool dataDirty = false;
     bool normalsDirty = false;
     bool warnedWithoutGradient = false;
+    bool warnedOfLostValues = false;
     std::unique_ptr<Addition> styleAddition;
     QList<Addition*> additions;
     QGradient currentGradient;
@@ -273,6 +284,7 @@ private:
     BoxScaling boxScaling = ManualScaling;
     std::unique_ptr<CoordinateSystem> coordinateSystem;
     std::unique_ptr<Title> title;
+    std::unique_ptr<Legend> legend;
     std::unique_ptr<EdgeChoice> edges; ///< of the last frame, while they are chosen automatically
     bool automaticEdges = true;
     std::array<bool, 3> logarithmicData{};

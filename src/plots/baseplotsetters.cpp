@@ -5,6 +5,7 @@
 #include "plots/baseplot.h"
 #include "plots/baseplotsettings.h"
 #include "scene/coordinatesystem.h"
+#include "scene/legend.h"
 #include "scene/title.h"
 
 #include <QSettings>
@@ -179,7 +180,7 @@ bool BasePlot::setAxesScaleType(BaseAxisType axis, ScaleType type)
 {
     if (!settings->getAxes().setAxesScaleType(axis, type))
         return false;
-    coordinateSystem->setScale(axis, type);
+    applyScale(axis);
     emit axesScaleChanged(type);
     // The divisions last used with this scale. The records hold them already, so the setters would do
     // nothing.
@@ -192,6 +193,8 @@ bool BasePlot::setMinorInterval(BaseAxisType axis, ScaleType type, int count)
     if (count < 0 || !settings->getAxes().setMinorInterval(axis, type, unsigned(count)))
         return false;
     coordinateSystem->setMinorInterval(axis, count);
+    if (axis == ZAxis)
+        legend->setMinorInterval(count);
     emit minorIntervalChanged(unsigned(count));
     return true;
 }
@@ -201,6 +204,8 @@ bool BasePlot::setMajorInterval(BaseAxisType axis, ScaleType type, int count)
     if (count < 0 || !settings->getAxes().setMajorInterval(axis, type, unsigned(count)))
         return false;
     coordinateSystem->setMajorInterval(axis, count);
+    if (axis == ZAxis)
+        legend->setMajorInterval(count);
     emit majorIntervalChanged(unsigned(count));
     return true;
 }
@@ -236,6 +241,7 @@ void BasePlot::setDataColor(DataColor* coloring)
     if (coloring != dataColor.get())
         dataColor.reset(coloring);
     currentGradient = dataColor ? dataColor->getGradient() : QGradient();
+    legend->setGradient(currentGradient);
     warnedWithoutGradient = false;
     markAllChanged();
 }
@@ -251,6 +257,7 @@ void BasePlot::setStyleAddition(Addition* addition)
 void BasePlot::setGradientRange(const Pair<double>& range)
 {
     gradientRange = range;
+    updateLegend();
     markAllChanged();
 }
 
@@ -331,6 +338,7 @@ void BasePlot::saveSettings()
     }
     title->saveSettings(objectName(), getOrganization(), getApplication());
     coordinateSystem->saveSettings(objectName(), getOrganization(), getApplication());
+    legend->saveSettings(objectName(), getOrganization(), getApplication());
     if (dataColor)
         dataColor->saveSettings(objectName(), getOrganization(), getApplication());
 }
@@ -347,6 +355,7 @@ void BasePlot::loadSettings()
         updateAutoScale();
     applyIntervals();
     title->loadSettings(objectName(), getOrganization(), getApplication());
+    legend->loadSettings(objectName(), getOrganization(), getApplication());
     coordinateSystem->loadSettings(objectName(), getOrganization(), getApplication());
     if (dataColor) {
         dataColor->loadSettings(objectName(), getOrganization(), getApplication());

@@ -6,6 +6,8 @@
 #include "core/griddata.h"
 #include "plots/datacheck.h"
 
+#include <cmath>
+#include <limits>
 #include <new>
 
 namespace Zel3D {
@@ -52,13 +54,43 @@ bool SHPlot::load(Container* container, const QString& fault, const Fill& fill)
     return filled;
 }
 
+void SHPlot::convertGrid()
+{
+    const std::array<bool, 3>& directions = getLogarithmicData();
+    if (directions[0] || directions[1] || directions[2])
+        warnOfLostValues(gridData->convertToExponents(directions));
+}
+
+QVector<QVector3D> SHPlot::toExponents(const QVector<QVector3D>& vertices)
+{
+    const std::array<bool, 3>& directions = getLogarithmicData();
+    if (!directions[0] && !directions[1] && !directions[2])
+        return vertices;
+    QVector<QVector3D> converted = vertices;
+    int lost = 0;
+    for (QVector3D& vertex : converted) {
+        bool positive = true;
+        for (int k = 0; k < 3; ++k) {
+            if (!directions[std::size_t(k)])
+                continue;
+            positive = positive && vertex[k] > 0.0F;
+            vertex[k] = vertex[k] > 0.0F ? std::log10(vertex[k]) : std::numeric_limits<float>::quiet_NaN();
+        }
+        lost += positive ? 0 : 1;
+    }
+    warnOfLostValues(lost);
+    return converted;
+}
+
 bool SHPlot::loadFromData(double** z, unsigned int columns, unsigned int rows, double xMin, double xMax,
                           double yMin, double yMax)
 {
     if (!gridData)
         return false;
-    return load(gridData.get(), DataCheck::heights(z, columns, rows, xMin, xMax, yMin, yMax),
-                [&] { gridData->setData(z, columns, rows, xMin, xMax, yMin, yMax); });
+    return load(gridData.get(), DataCheck::heights(z, columns, rows, xMin, xMax, yMin, yMax), [&] {
+        gridData->setData(z, columns, rows, xMin, xMax, yMin, yMax);
+        convertGrid();
+    });
 }
 
 bool SHPlot::loadFromData(QVector3D** points, unsigned int columns, unsigned int rows, double stepX,
@@ -66,8 +98,10 @@ bool SHPlot::loadFromData(QVector3D** points, unsigned int columns, unsigned int
 {
     if (!gridData)
         return false;
-    return load(gridData.get(), DataCheck::points(points, columns, rows, stepX, stepY),
-                [&] { gridData->setData(points, columns, rows, stepX, stepY); });
+    return load(gridData.get(), DataCheck::points(points, columns, rows, stepX, stepY), [&] {
+        gridData->setData(points, columns, rows, stepX, stepY);
+        convertGrid();
+    });
 }
 
 bool SHPlot::loadFromData(const QVector<QVector3D>& vertices, const QVector<QVector<unsigned int>>& cells,
@@ -76,7 +110,7 @@ bool SHPlot::loadFromData(const QVector<QVector3D>& vertices, const QVector<QVec
     if (!cellData)
         return false;
     return load(cellData.get(), DataCheck::cells(vertices, cells, stepX, stepY),
-                [&] { cellData->setData(vertices, cells, stepX, stepY); });
+                [&] { cellData->setData(toExponents(vertices), cells, stepX, stepY); });
 }
 
 void SHPlot::updateDataType(int type)

@@ -2,6 +2,7 @@
 
 #include "plots/baseplotsettings.h"
 #include "plots/shplot.h"
+#include "scene/legend.h"
 
 #include <QColor>
 #include <QImage>
@@ -68,6 +69,8 @@ public:
         : SHPlot(name, fixture::organization, fixture::application, nullptr, share)
     {
         setGradient("ramp", ramp());
+        // What is tested is the data.
+        getLegend().setVisible(false);
     }
 
     using SHPlot::canDrawData;
