@@ -708,6 +708,25 @@ private slots:
         QCOMPARE(view.getDeltaVelocity(), 0.0);
     }
 
+    void contextIsSetUp()
+    {
+        View view;
+        QVERIFY(harness::show(view, 50, 50));
+        for (int i = 0; i < 2; ++i) {
+            view.makeCurrent();
+            QVERIFY(glIsEnabled(GL_BLEND) && glIsEnabled(GL_DEPTH_TEST) && glIsEnabled(GL_COLOR_MATERIAL));
+            float held[7] = {};
+            glGetFloatv(GL_LIGHT_MODEL_AMBIENT, held);
+            glGetFloatv(GL_LIGHT_MODEL_TWO_SIDE, held + 4);
+            glGetFloatv(GL_SHADE_MODEL, held + 5);
+            glGetLightfv(GL_LIGHT7, GL_QUADRATIC_ATTENUATION, held + 6);
+            const float expected[7] = {0.2F, 0.2F, 0.2F, 1.0F, 1.0F, float(GL_SMOOTH), 0.1F};
+            QVERIFY2(std::equal(held, held + 7, expected), qPrintable(QString::number(i)));
+            view.setFormat(QGLFormat(QGL::DoubleBuffer | QGL::SampleBuffers));
+            view.updateGL();
+        }
+    }
+
     void newContextGivesTheSamePicture()
     {
         View view;
