@@ -63,11 +63,12 @@ void CellData::calcNormals()
             continue;
         for (int k = 0; k < corners; ++k) {
             const int current = int(cell.at(k));
-            const QVector3D& here = vertices.at(current);
             const QVector3D& next = vertices.at(int(cell.at((k + 1) % corners)));
             const QVector3D& previous = vertices.at(int(cell.at((k + corners - 1) % corners)));
-            if (!missing || (isFinite(here) && isFinite(next) && isFinite(previous)))
-                normals[current] += QVector3D::normal(here, next, previous);
+            const QVector3D normal = QVector3D::normal(vertices.at(current), next, previous);
+            // A corner that is missing, or too far away for the arithmetic, leaves no finite normal.
+            if (isFinite(normal))
+                normals[current] += normal;
         }
     }
     for (QVector3D& normal : vertexNormals)

@@ -166,7 +166,8 @@ void BasePlot::updateData()
     const GLMode depthTest(GL_DEPTH_TEST, true, false);
     const GLMode lineSmooth(GL_LINE_SMOOTH, true, false);
     calculateHull();
-    if (data)
+    // An empty container has no spacing: a plot without data keeps its radius and has nothing to save.
+    if (data && !data->isEmpty())
         settings->getCylinder().setRadius(0.5 * std::min(data->getStepX(), data->getStepY()));
     drawingLists[DataList].compile([this] {
         createAdditions();
@@ -279,7 +280,7 @@ bool BasePlot::setHull(const Parallelepiped& box)
 void BasePlot::setFixedHull(const Parallelepiped& box)
 {
     fixedHull = box;
-    markDataChanged();
+    markAllChanged();
     createCoordinateSystem();
 }
 

@@ -212,6 +212,8 @@ protected:
     void removeDataList();
     /// The geometry is compiled again at the next paint.
     void markDataChanged() { dataDirty = true; }
+    /// The same, and the normals too: their places or colours changed.
+    void markAllChanged() { dataDirty = normalsDirty = true; }
 
 private:
     void rebuildWhatChanged();

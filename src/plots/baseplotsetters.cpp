@@ -13,7 +13,7 @@ bool BasePlot::setResolution(int step)
 {
     if (!settings->setResolution(step))
         return false;
-    dataDirty = normalsDirty = true;
+    markAllChanged();
     emit resolutionChanged(step);
     return true;
 }
@@ -197,7 +197,7 @@ void BasePlot::setDataColor(DataColor* coloring)
         dataColor.reset(coloring);
     currentGradient = dataColor ? dataColor->getGradient() : QGradient();
     warnedWithoutGradient = false;
-    dataDirty = normalsDirty = true;
+    markAllChanged();
 }
 
 void BasePlot::setStyleAddition(Addition* addition)
@@ -211,7 +211,7 @@ void BasePlot::setStyleAddition(Addition* addition)
 void BasePlot::setGradientRange(const Pair<double>& range)
 {
     gradientRange = range;
-    dataDirty = normalsDirty = true;
+    markAllChanged();
 }
 
 bool BasePlot::setPlotStyle(int style)
@@ -221,7 +221,7 @@ bool BasePlot::setPlotStyle(int style)
     setStyleAddition(nullptr);
     if (!settings->setStyle(style))
         return false;
-    dataDirty = normalsDirty = true;
+    markAllChanged();
     emit plotStyleChanged(style);
     return true;
 }
@@ -290,7 +290,7 @@ void BasePlot::loadSettings()
         dataColor->loadSettings(objectName(), getOrganization(), getApplication());
         setDataColor(dataColor.get());
     }
-    dataDirty = normalsDirty = true;
+    markAllChanged();
 }
 
 } // namespace Zel3D

@@ -312,11 +312,7 @@ void BasePlot::AxesSettings::loadSettings(const QString& prefix, const QString& 
     }
 }
 
-BasePlot::BasePlotSettings::BasePlotSettings() : cylinder(10, 0.05, false, 45.0)
-{
-    // The constructor of the cylinder goes through its setters; a new record has nothing to save.
-    cylinder.resetModified();
-}
+BasePlot::BasePlotSettings::BasePlotSettings() : cylinder(10, 0.05, false, 45.0) {}
 
 bool BasePlot::BasePlotSettings::setResolution(int step)
 {

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "core/settingsrecord.h"
 #include "plots/baseplot.h"
 #include "plots/cylinderaddition.h"
 #include "plots/dot.h"
-#include "plots/settingsrecord.h"
 
 #include <QColor>
 #include <QGradient>

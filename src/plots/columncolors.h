@@ -15,18 +15,26 @@ class ColumnColors
 public:
     using Color = std::array<double, 4>; ///< red, green, blue, alpha, 0 to 1
 
-    /// Forgets everything and looks up every \a step -th node from now on. Both arguments must outlive the
-    /// use.
-    void reset(const GridData* grid, const DataColor* coloring, int rowStep)
+    /// Looks up every \a rowStep -th node of a grid for a scope; behind it nothing is kept, because the grid
+    /// and the colouring may change.
+    class Use
     {
-        data = grid;
-        color = coloring;
-        step = rowStep;
-        columns.fill(Column());
-        newest = 0;
-    }
+    public:
+        Use(ColumnColors& colors, const GridData& grid, const DataColor& coloring, int rowStep) : used(colors)
+        {
+            used.data = &grid;
+            used.color = &coloring;
+            used.step = rowStep;
+        }
+        ~Use() { used = ColumnColors(); }
+        Use(const Use&) = delete;
+        Use& operator=(const Use&) = delete;
 
-    /// Whether reset() was given the grid and the colouring.
+    private:
+        ColumnColors& used;
+    };
+
+    /// Whether a use is in progress; only then at() can be asked.
     bool isReady() const { return data && color; }
 
     const Color& at(int column, int row)
@@ -54,10 +62,9 @@ private:
         entry.index = column;
         const auto rows = int(data->rows());
         entry.colors.resize(std::size_t((rows + step - 1) / step));
-        for (int row = 0, k = 0; row < rows; row += step, ++k) {
-            const double* p = data->valueVectorAt(unsigned(column), unsigned(row));
-            entry.colors[std::size_t(k)] = channels((*color)(p[0], p[1], p[2]));
-        }
+        // In single precision, as the box is: the highest node takes the last colour.
+        for (int row = 0, k = 0; row < rows; row += step, ++k)
+            entry.colors[std::size_t(k)] = channels((*color)(data->valueAt(unsigned(column), unsigned(row))));
     }
 
     const GridData* data = nullptr;

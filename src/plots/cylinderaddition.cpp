@@ -23,6 +23,7 @@ CylinderAddition::CylinderAddition(int ribs, double sceneUnits, bool frame, doub
     : ribNumber(fewestRibs)
 {
     CylinderAddition::setParameters(ribs, sceneUnits, frame, degrees);
+    modified = false;
 }
 
 bool CylinderAddition::setParameters(int ribs, double sceneUnits, bool frame, double degrees)

@@ -90,7 +90,7 @@ void SHPlot::updateDataType(int type)
         cellData->clear();
         setData(gridData.get());
     }
-    markDataChanged();
+    markAllChanged();
 }
 
 void SHPlot::clearData()

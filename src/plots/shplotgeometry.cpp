@@ -112,7 +112,7 @@ void SHPlot::createGridData()
 {
     if (!canDrawData())
         return;
-    gridColors.reset(gridData.get(), getDataColor(), nodeStep());
+    const ColumnColors::Use lookUp(gridColors, *gridData, *getDataColor(), nodeStep());
     createGridViewProjection();
     if (drawMarkerStyle())
         return;
@@ -145,12 +145,16 @@ void SHPlot::drawGridMesh(int step)
 {
     const MeshSettings& mesh = getSettings().getMesh();
     sendColor(mesh.getColor());
-    BaseDraw::setGLLineWidth(float(mesh.getLineWidth()));
     const GridWalk walk(*gridData, step);
-    if (mesh.isXVisible())
+    // Without inner lines the border keeps the width in force.
+    if (mesh.isXVisible()) {
+        BaseDraw::setGLLineWidth(float(mesh.getLineWidth()));
         walk.columnLines();
-    if (mesh.isYVisible())
+    }
+    if (mesh.isYVisible()) {
+        BaseDraw::setGLLineWidth(float(mesh.getLineWidth()));
         walk.rowLines();
+    }
     walk.border();
 }
 
@@ -158,6 +162,10 @@ void SHPlot::setGridColorFromVertex(int column, int row, bool keep)
 {
     if (keep)
         return;
+    if (!gridColors.isReady()) {
+        sendColor((*getDataColor())(gridData->valueAt(unsigned(column), unsigned(row))));
+        return;
+    }
     const ColumnColors::Color& color = gridColors.at(column, row);
     glColor4d(color[0], color[1], color[2], color[3]);
 }

@@ -55,6 +55,7 @@ public:
     /// Returns whether the flag changed; a change marks the object for saving.
     bool setVisible(bool on);
     bool isSaveNeeded() const { return needSave; }
+    void markForSaving() { needSave = true; }
 
     /// glEnable when \a on is not zero, else glDisable.
     static void setGLEnable(unsigned int capability, unsigned char on);
@@ -74,6 +75,9 @@ public:
     QVector3D relativePosition(QVector3D p);
 
 protected:
+    /// Reads the viewport and both matrices. Needs a current context.
+    void fetchMatrices();
+
     bool needSave = false;
     QString name;
     bool visible = false;
@@ -82,8 +86,6 @@ protected:
     std::array<int, 4> viewport{};
 
 private:
-    void fetchMatrices();
-
     struct GLState
     {
         bool lineSmooth = false;

@@ -164,14 +164,15 @@ void ZelGLWidget::orthoGL()
     const QVector3D s = second();
     const QVector3D f = first();
     const bool empty = f.x() == s.x() && f.y() == s.y() && f.z() == s.z();
-    if (empty && projectionType == Orthogonal)
-        glOrtho(-1.0, 1.0, -1.0, 1.0, 10.0, 100.0);
-    else if (empty)
-        glFrustum(-1.0, 1.0, -1.0, 1.0, 10.0, 100.0);
-    else if (projectionType == Orthogonal)
-        glOrtho(-r, r, -r, r, 0.0, 40.0 * r);
+    const double aspect = keepProportions ? double(qMax(width(), 1)) / qMax(height(), 1) : 1.0;
+    const double halfWidth = (empty ? 1.0 : r) * qMax(aspect, 1.0);
+    const double halfHeight = (empty ? 1.0 : r) * qMax(1.0 / aspect, 1.0);
+    const auto volume = projectionType == Orthogonal ? glOrtho : glFrustum;
+    if (empty)
+        volume(-halfWidth, halfWidth, -halfHeight, halfHeight, 10.0, 100.0);
     else
-        glFrustum(-r, r, -r, r, 5.0 * r, 400.0 * r);
+        volume(-halfWidth, halfWidth, -halfHeight, halfHeight, projectionType == Orthogonal ? 0.0 : 5.0 * r,
+               (projectionType == Orthogonal ? 40.0 : 400.0) * r);
     glTranslatef(float(2.0 * viewportShift.x * r), float(2.0 * viewportShift.y * r), float(-7.0 * r));
     glRotatef(float(rotation.x - 90.0), 1.0F, 0.0F, 0.0F);
     glRotatef(float(rotation.y), 0.0F, 1.0F, 0.0F);

@@ -61,6 +61,7 @@ public:
     bool isShowLights() const { return showLights; }
     bool isShowInfo() const { return showInfo; }
     bool isShowToolTips() const { return showToolTips; }
+    bool isKeepProportions() const { return keepProportions; }
     /// Whether the OpenGL context has been set up.
     bool isInitialized() const { return initialized; }
     /// Whether a released drag keeps the view turning.
@@ -96,6 +97,9 @@ public:
     bool setRotation(const ValueXYZ<double>& degrees);
     bool setShift(const ValueXYZ<double>& sceneUnits);
     bool setViewportShift(const ValueXY<double>& fractions); ///< emits vieportShiftChanged()
+    /// On: the scene keeps its proportions in a window of any shape; the shorter side shows the camera's
+    /// volume. Off, the default: the picture stretches with the window.
+    bool setKeepProportions(bool on);
     /// Components below 2.2e-16, negative ones included, are stored as 1.
     bool setScale(const ValueXYZ<double>& factors);
     /// @}
@@ -128,7 +132,8 @@ public:
     /// Draws the markers of the lights. Needs the widget's context.
     void drawLights();
     /// Multiplies the camera onto the current matrix. Needs the widget's context. The volume is square
-    /// whatever the widget's shape is: the picture stretches with the widget.
+    /// whatever the widget's shape is, so that the picture stretches with the widget, unless proportions are
+    /// kept.
     void orthoGL();
     /// Picks the object under a position (logical pixels from the top left corner) and emits
     /// selectedObject(). Does nothing while selecting is off.
@@ -145,6 +150,7 @@ public slots:
     void slotSetLighting(bool on);
     void slotSetShowLights(bool on);
     void slotSetShowInfo(bool on);
+    void slotSetKeepProportions(bool on);
     void slotSetShift(const Zel3D::ValueXYZ<double>& sceneUnits);
     /// Does nothing while scaling is held, as automatic scaling does.
     void slotSetScale(const Zel3D::ValueXYZ<double>& factors);
@@ -166,6 +172,7 @@ signals:
     void lightingChanged(bool on);
     void showLightsChanged(bool on);
     void showInfoChanged(bool on);
+    void keepProportionsChanged(bool on);
     void rotationChanged(double x, double y, double z);
     void shiftChanged(double x, double y, double z);
     void vieportShiftChanged(double x, double y);
@@ -270,6 +277,7 @@ private:
     bool showLights = false;
     bool showInfo = false;
     bool showToolTips = false;
+    bool keepProportions = false;
 
     QVector<Light*> lights;
     QTimer* autoRotationTimer = nullptr;

@@ -115,6 +115,15 @@ bool ZelGLWidget::setShowLights(bool on)
     return true;
 }
 
+bool ZelGLWidget::setKeepProportions(bool on)
+{
+    if (keepProportions == on)
+        return false;
+    keepProportions = on;
+    emit keepProportionsChanged(keepProportions);
+    return true;
+}
+
 bool ZelGLWidget::setRotation(const ValueXYZ<double>& degrees)
 {
     if (!(rotation != degrees))
@@ -207,6 +216,12 @@ void ZelGLWidget::slotSetShowLights(bool on)
 void ZelGLWidget::slotSetShowInfo(bool on)
 {
     if (initialized && setShowInfo(on))
+        updateGL();
+}
+
+void ZelGLWidget::slotSetKeepProportions(bool on)
+{
+    if (initialized && setKeepProportions(on))
         updateGL();
 }
 

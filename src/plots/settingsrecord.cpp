@@ -1,7 +1,0 @@
-#include "plots/settingsrecord.h"
-
-namespace Zel3D {
-
-SettingsRecord::~SettingsRecord() = default;
-
-} // namespace Zel3D
