@@ -195,6 +195,8 @@ private slots:
         row(SIGNAL(lightingChanged(bool)), &V::setLighting, &V::slotSetLighting, true, {true});
         row(SIGNAL(showLightsChanged(bool)), &V::setShowLights, &V::slotSetShowLights, true, {true});
         row(SIGNAL(showInfoChanged(bool)), &V::setShowInfo, &V::slotSetShowInfo, true, {true});
+        row(SIGNAL(keepProportionsChanged(bool)), &V::setKeepProportions, &V::slotSetKeepProportions, true,
+            {true});
         row(SIGNAL(rotationChanged(double, double, double)), &V::setRotation, &V::slotSetRotation,
             XYZ{400.5, 2.0, -3.0}, {400.5, 2.0, -3.0});
         row(SIGNAL(shiftChanged(double, double, double)), &V::setShift, &V::slotSetShift, XYZ{1.0, 2.0, 3.0},
@@ -266,20 +268,28 @@ private slots:
     {
         QTest::addColumn<int>("type");
         QTest::addColumn<QVector3D>("upper");
-        QTest::newRow("orthogonal") << int(Orthogonal) << QVector3D(2, 4, 6);
-        QTest::newRow("perspective") << int(Perspective) << QVector3D(2, 4, 6);
-        QTest::newRow("orthogonal, empty box") << int(Orthogonal) << QVector3D();
-        QTest::newRow("perspective, empty box") << int(Perspective) << QVector3D();
-        QTest::newRow("box that is flat in two directions") << int(Orthogonal) << QVector3D(0, 4, 0);
+        QTest::addColumn<QSize>("aspect"); // of the volume, where proportions are kept
+        const QVector3D box(2, 4, 6);
+        QTest::newRow("orthogonal") << int(Orthogonal) << box << QSize();
+        QTest::newRow("perspective") << int(Perspective) << box << QSize();
+        QTest::newRow("orthogonal, empty box") << int(Orthogonal) << QVector3D() << QSize();
+        QTest::newRow("perspective, empty box") << int(Perspective) << QVector3D() << QSize();
+        QTest::newRow("box that is flat in two directions")
+            << int(Orthogonal) << QVector3D(0, 4, 0) << QSize();
+        QTest::newRow("proportions kept, wide") << int(Orthogonal) << box << QSize(2, 1);
+        QTest::newRow("proportions kept, tall") << int(Perspective) << box << QSize(1, 2);
+        QTest::newRow("proportions kept, empty box") << int(Perspective) << QVector3D() << QSize(2, 1);
     }
 
     void cameraMatrix()
     {
         QFETCH(int, type);
         QFETCH(QVector3D, upper);
+        QFETCH(QSize, aspect);
         View view;
         view.upper = upper;
-        QVERIFY(harness::show(view, 200, 100));
+        view.setKeepProportions(aspect.isValid());
+        QVERIFY(harness::show(view, aspect == QSize(1, 2) ? 100 : 200, aspect == QSize(1, 2) ? 200 : 100));
         view.setProjectionType(ProjectionType(type));
         view.setRotation({20.0, 30.0, 40.0});
         view.setShift({0.1, 0.2, 0.3});
@@ -290,14 +300,14 @@ private slots:
 
         const QVector3D center = upper / 2.0F;
         const float r = center.length();
-        const float side = upper.isNull() ? 1.0F : r;
+        const bool empty = upper.isNull();
+        const float across = (empty ? 1.0F : r) * (aspect.isValid() ? float(aspect.width()) : 1.0F);
+        const float up = (empty ? 1.0F : r) * (aspect.isValid() ? float(aspect.height()) : 1.0F);
         QMatrix4x4 expected;
         if (type == Orthogonal)
-            expected.ortho(-side, side, -side, side, upper.isNull() ? 10.0F : 0.0F,
-                           upper.isNull() ? 100.0F : 40.0F * r);
+            expected.ortho(-across, across, -up, up, empty ? 10.0F : 0.0F, empty ? 100.0F : 40.0F * r);
         else
-            expected.frustum(-side, side, -side, side, upper.isNull() ? 10.0F : 5.0F * r,
-                             upper.isNull() ? 100.0F : 400.0F * r);
+            expected.frustum(-across, across, -up, up, empty ? 10.0F : 5.0F * r, empty ? 100.0F : 400.0F * r);
         expected.translate(0.5F * r, -r, -7.0F * r);
         expected.rotate(-70.0F, 1.0F, 0.0F, 0.0F);
         expected.rotate(30.0F, 0.0F, 1.0F, 0.0F);
@@ -706,6 +716,25 @@ private slots:
         QVERIFY(!view.getBackgroundColor().isValid() && !view.isLighting() && !view.isSelecting());
         QCOMPARE(view.getProjectionType(), Orthogonal);
         QCOMPARE(view.getDeltaVelocity(), 0.0);
+    }
+
+    void contextIsSetUp()
+    {
+        View view;
+        QVERIFY(harness::show(view, 50, 50));
+        for (int i = 0; i < 2; ++i) {
+            view.makeCurrent();
+            QVERIFY(glIsEnabled(GL_BLEND) && glIsEnabled(GL_DEPTH_TEST) && glIsEnabled(GL_COLOR_MATERIAL));
+            float held[7] = {};
+            glGetFloatv(GL_LIGHT_MODEL_AMBIENT, held);
+            glGetFloatv(GL_LIGHT_MODEL_TWO_SIDE, held + 4);
+            glGetFloatv(GL_SHADE_MODEL, held + 5);
+            glGetLightfv(GL_LIGHT7, GL_QUADRATIC_ATTENUATION, held + 6);
+            const float expected[7] = {0.2F, 0.2F, 0.2F, 1.0F, 1.0F, float(GL_SMOOTH), 0.1F};
+            QVERIFY2(std::equal(held, held + 7, expected), qPrintable(QString::number(i)));
+            view.setFormat(QGLFormat(QGL::DoubleBuffer | QGL::SampleBuffers));
+            view.updateGL();
+        }
     }
 
     void newContextGivesTheSamePicture()
