@@ -74,10 +74,7 @@ public:
     }
 
     using SHPlot::canDrawData;
-    using SHPlot::createAddition;
     using SHPlot::createGridViewProjection;
-    using SHPlot::initializeGL;
-    using SHPlot::isContextCurrent;
     using SHPlot::settingsRecord;
 };
 

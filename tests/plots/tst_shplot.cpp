@@ -376,6 +376,14 @@ void TestSHPlot::projections()
         }
     }
     QCOMPARE(calls(plot).contains(line("glPolygonMode", {GL_FRONT_AND_BACK, 7})), primitives > 0);
+    // A subclass may draw it on its own, with the colours of the moment.
+    if (!cells && projection != 0) {
+        plot.setGradient("red", plain(Qt::red));
+        GLRecorder recorder;
+        plot.createGridViewProjection();
+        QCOMPARE(recorder.primitives(GL_TRIANGLE_STRIP).size(), 3);
+        QCOMPARE(recorder.primitives().at(0).vertices.at(5).color, channels(Qt::red));
+    }
 }
 
 void TestSHPlot::histogramHasABarANode()
