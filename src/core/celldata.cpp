@@ -63,16 +63,22 @@ void CellData::calcNormals()
             continue;
         for (int k = 0; k < corners; ++k) {
             const int current = int(cell.at(k));
+            const QVector3D& here = vertices.at(current);
             const QVector3D& next = vertices.at(int(cell.at((k + 1) % corners)));
             const QVector3D& previous = vertices.at(int(cell.at((k + corners - 1) % corners)));
-            const QVector3D normal = QVector3D::normal(vertices.at(current), next, previous);
-            // A corner that is missing, or too far away for the arithmetic, leaves no finite normal.
+            const QVector3D normal = QVector3D::normal(here, next, previous);
+            // Not so at a corner that is missing or so far away that the area overflows.
             if (isFinite(normal))
                 normals[current] += normal;
         }
     }
     for (QVector3D& normal : vertexNormals)
         normal.normalize();
+    // What a vertex that went missing after setData() still has.
+    for (int i = 0; missing && i < vertices.size(); ++i) {
+        if (!isFinite(vertices.at(i)))
+            normals[i] = QVector3D();
+    }
 }
 
 bool CellData::isMissing(unsigned int vertex) const

@@ -40,7 +40,8 @@ void GridData::setSize(unsigned int columns, unsigned int rows)
 {
     clear();
     const std::size_t most = std::numeric_limits<std::size_t>::max() / (doublesPerNode * sizeof(double));
-    if (rows != 0 && columns > most / rows)
+    constexpr auto longest = unsigned(std::numeric_limits<int>::max());
+    if (columns > longest || rows > longest || (rows != 0 && columns > most / rows))
         qBadAlloc();
     const std::size_t third = 3 * std::size_t(columns) * rows;
     std::unique_ptr<double[]> arrays(new double[3 * third]);
@@ -85,9 +86,8 @@ void GridData::setData(double** z, unsigned int columns, unsigned int rows, doub
     for (unsigned int i = 0; i < columns; ++i) {
         const double x = alongX.drawn + i * stepX;
         const double givenX = alongX.given + alongX.sign * (i * stepX);
-        const double* heights = z[i];
         for (unsigned int j = 0; j < rows; ++j, value += 3, given += 3) {
-            const double height = heights[j];
+            const double height = z[i][j];
             value[0] = x;
             value[1] = alongY.drawn + j * stepY;
             value[2] = height;
@@ -121,9 +121,8 @@ void GridData::setData(QVector3D** points, unsigned int columns, unsigned int ro
     float high[3] = {-infinity, -infinity, -infinity};
     double* value = block.get();
     for (unsigned int i = 0; i < columns; ++i) {
-        const QVector3D* column = points[i];
         for (unsigned int j = 0; j < rows; ++j, value += 3) {
-            const float point[3] = {column[j].x(), column[j].y(), column[j].z()};
+            const float point[3] = {points[i][j].x(), points[i][j].y(), points[i][j].z()};
             const bool present =
                 std::isfinite(point[0]) && std::isfinite(point[1]) && std::isfinite(point[2]);
             for (int k = 0; k < 3; ++k) {

@@ -17,6 +17,8 @@ struct Range
 
     void widen(double value)
     {
+        if (!std::isfinite(value))
+            return;
         lower = std::min(lower, value);
         upper = std::max(upper, value);
     }
@@ -42,8 +44,7 @@ void SpectrumData::setData(const Map& data)
         }
         for (const auto& [key, value] : values) {
             inner.widen(key);
-            if (std::isfinite(value))
-                height.widen(value);
+            height.widen(value);
         }
     }
     const Range& x = axis == YAxis ? inner : outer;

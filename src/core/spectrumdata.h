@@ -10,7 +10,8 @@ namespace Zel3D {
 /// A family of spectra: the outer key is the position of a spectrum along the axis, the inner key the
 /// position along the other horizontal axis, the inner value the height z.
 ///
-/// A height that is not finite is a hole: it widens no bounding box; its keys do.
+/// A height that is not finite is a hole. It widens no bounding box, nor does a key that is not finite; the
+/// finite keys of a hole do.
 class VORANPLOT_EXPORT SpectrumData : public Data
 {
 public:
