@@ -7,7 +7,12 @@ GradientManager::GradientManager(QObject* parent, const QGradient& defaultGradie
 
 QGradient GradientManager::getDefaultGradient() const
 {
-    return store.value(tr("Default"));
+    const auto found = store.constFind(tr("Default"));
+    if (found != store.constEnd())
+        return *found;
+    QGradient empty;
+    empty.setSpread(QGradient::PadSpread); // left unset by QGradient, and read by every copy
+    return empty;
 }
 
 QString GradientManager::uniqueId(const QString& name) const
