@@ -1,7 +1,6 @@
 #include "core/gradientstops.h"
 
-namespace Zel3D
-{
+namespace Zel3D {
 
 QGradientStops gradientStops(const QGradient& gradient)
 {

@@ -4,8 +4,7 @@
 
 #include <QGradient>
 
-namespace Zel3D
-{
+namespace Zel3D {
 
 /// The stops that were really added to a gradient, sorted by position; empty when none was.
 ///

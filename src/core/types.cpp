@@ -4,11 +4,9 @@
 #include <cfloat>
 #include <cmath>
 
-namespace Zel3D
-{
+namespace Zel3D {
 
-namespace
-{
+namespace {
 constexpr double pi = 3.141592653589793;
 }
 
@@ -36,8 +34,9 @@ double getRotationAngle(QVector3D& axis, const QVector3D& from, const QVector3D&
 
 bool operator==(const Parallelepiped& a, const Parallelepiped& b)
 {
-    return a.minimum.x() == b.minimum.x() && a.minimum.y() == b.minimum.y() && a.minimum.z() == b.minimum.z()
-        && a.maximum.x() == b.maximum.x() && a.maximum.y() == b.maximum.y() && a.maximum.z() == b.maximum.z();
+    return a.minimum.x() == b.minimum.x() && a.minimum.y() == b.minimum.y() &&
+           a.minimum.z() == b.minimum.z() && a.maximum.x() == b.maximum.x() &&
+           a.maximum.y() == b.maximum.y() && a.maximum.z() == b.maximum.z();
 }
 
 } // namespace Zel3D

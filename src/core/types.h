@@ -5,8 +5,7 @@
 #include <QMetaType>
 #include <QVector3D>
 
-namespace Zel3D
-{
+namespace Zel3D {
 
 /// The camera of the view. The values are persisted and are the order of the settings' combo box.
 enum ProjectionType {
@@ -61,13 +60,14 @@ VORANPLOT_EXPORT double translateToRadian(double degrees);
 /// The rotation that turns the +Z axis onto the direction from -> to.
 ///
 /// Sets \a axis to the normalised cross product of (0, 0, 1) and the direction and returns the angle between
-/// them in degrees, 0 to 180: `glRotatef(angle, axis.x(), axis.y(), axis.z())` turns an object drawn along +Z.
-/// For a direction along Z the axis is the zero vector.
+/// them in degrees, 0 to 180: `glRotatef(angle, axis.x(), axis.y(), axis.z())` turns an object drawn along
+/// +Z. For a direction along Z the axis is the zero vector.
 VORANPLOT_EXPORT double getRotationAngle(QVector3D& axis, const QVector3D& from, const QVector3D& to);
 
 /// Three values in x, y, z order: a rotation in degrees, a shift in scene units or a scale.
 template <class T>
-struct ValueXYZ {
+struct ValueXYZ
+{
     T x = T();
     T y = T();
     T z = T();
@@ -81,7 +81,8 @@ struct ValueXYZ {
 
 /// Two values: the viewport shift in fractions of the view radius.
 template <class T>
-struct ValueXY {
+struct ValueXY
+{
     T x = T();
     T y = T();
 };
@@ -102,7 +103,8 @@ public:
 };
 
 /// An axis-aligned box given by two corners.
-struct Parallelepiped {
+struct Parallelepiped
+{
     QVector3D minimum;
     QVector3D maximum;
 };
@@ -111,7 +113,8 @@ struct Parallelepiped {
 VORANPLOT_EXPORT bool operator==(const Parallelepiped& a, const Parallelepiped& b);
 
 /// One hit of a pick through the OpenGL selection buffer.
-struct SelectionInfo {
+struct SelectionInfo
+{
     int id = 0;                ///< the innermost name on the hit's name stack, always positive
     int stackPosition = 0;     ///< the number of names on the hit's stack
     double minimumDepth = 0.0; ///< 0 (near) to about 2: the unsigned depth divided by 2147483647
@@ -119,7 +122,8 @@ struct SelectionInfo {
 };
 
 /// What a pick reports about the picked object. A record with valid false means that nothing is selected.
-struct SelectedObjectsInfo {
+struct SelectedObjectsInfo
+{
     double x = 0.0; ///< coordinates as the caller of the plot gave them
     double y = 0.0;
     double z = 0.0;

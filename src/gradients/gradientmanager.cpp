@@ -1,5 +1,20 @@
 #include "gradients/gradientmanager.h"
 
+namespace {
+
+// QGradient invents black and white for a gradient without stops and finds it equal to one that has them. A
+// stop added to both drops what is invented and tells them apart.
+bool isSame(const QGradient& a, const QGradient& b)
+{
+    QGradient probeA = a;
+    QGradient probeB = b;
+    probeA.setColorAt(0.5, Qt::black);
+    probeB.setColorAt(0.5, Qt::black);
+    return a == b && probeA == probeB;
+}
+
+} // namespace
+
 GradientManager::GradientManager(QObject* parent, const QGradient& defaultGradient) : QObject(parent)
 {
     addGradient(tr("Default"), defaultGradient);
@@ -7,12 +22,9 @@ GradientManager::GradientManager(QObject* parent, const QGradient& defaultGradie
 
 QGradient GradientManager::getDefaultGradient() const
 {
-    const auto found = store.constFind(tr("Default"));
-    if (found != store.constEnd())
-        return *found;
     QGradient empty;
-    empty.setSpread(QGradient::PadSpread); // left unset by QGradient, and read by every copy
-    return empty;
+    empty.setSpread(QGradient::PadSpread); // which the constructor leaves undefined
+    return store.value(tr("Default"), empty);
 }
 
 QString GradientManager::uniqueId(const QString& name) const
@@ -55,7 +67,7 @@ void GradientManager::changeGradient(const QString& oldName, const QString& newN
         return;
     }
     const auto found = store.constFind(newName);
-    if (found == store.constEnd() || *found == gradient)
+    if (found == store.constEnd() || isSame(*found, gradient))
         return;
     emit gradientChanged(newName, gradient);
     store.insert(newName, gradient);

@@ -6,11 +6,9 @@
 
 #include <algorithm>
 
-namespace Zel3D
-{
+namespace Zel3D {
 
-namespace
-{
+namespace {
 
 bool queryFlag(unsigned int name)
 {
@@ -190,8 +188,8 @@ QVector3D BaseDraw::ViewPort2World(QVector3D window, bool* failed)
     double x = 0.0;
     double y = 0.0;
     double z = 0.0;
-    const int done = gluUnProject(double(window.x()), double(window.y()), double(window.z()), modelview.data(),
-                                  projection.data(), viewport.data(), &x, &y, &z);
+    const int done = gluUnProject(double(window.x()), double(window.y()), double(window.z()),
+                                  modelview.data(), projection.data(), viewport.data(), &x, &y, &z);
     if (failed)
         *failed = done == GL_FALSE;
     return QVector3D(float(x), float(y), float(z));

@@ -8,15 +8,14 @@
 
 #include <array>
 
-namespace Zel3D
-{
+namespace Zel3D {
 
 /// The root of every object that a plot draws around its data.
 ///
-/// Holds a visibility flag that persists, a flag that marks unsaved changes, a list of child drawables that it
-/// does not own, and a guard for the OpenGL state: a drawable that starts its draw() with saveGLState() and ends
-/// it with restoreGLState() leaks none of the saved items into the next one. GL_BLEND, GL_DEPTH_TEST and
-/// lighting are not among them; who changes these puts them back.
+/// Holds a visibility flag that persists, a flag that marks unsaved changes, a list of child drawables that
+/// it does not own, and a guard for the OpenGL state: a drawable that starts its draw() with saveGLState()
+/// and ends it with restoreGLState() leaks none of the saved items into the next one. GL_BLEND, GL_DEPTH_TEST
+/// and lighting are not among them; who changes these puts them back.
 class VORANPLOT_EXPORT BaseDraw
 {
 public:
@@ -56,6 +55,7 @@ public:
     /// Returns whether the flag changed; a change marks the object for saving.
     bool setVisible(bool on);
     bool isSaveNeeded() const { return needSave; }
+    void markForSaving() { needSave = true; }
 
     /// glEnable when \a on is not zero, else glDisable.
     static void setGLEnable(unsigned int capability, unsigned char on);
@@ -75,6 +75,9 @@ public:
     QVector3D relativePosition(QVector3D p);
 
 protected:
+    /// Reads the viewport and both matrices. Needs a current context.
+    void fetchMatrices();
+
     bool needSave = false;
     QString name;
     bool visible = false;
@@ -83,9 +86,8 @@ protected:
     std::array<int, 4> viewport{};
 
 private:
-    void fetchMatrices();
-
-    struct GLState {
+    struct GLState
+    {
         bool lineSmooth = false;
         bool polygonSmooth = false;
         float lineWidth = 1.0F;

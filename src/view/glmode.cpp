@@ -2,11 +2,9 @@
 
 #include "view/opengl.h"
 
-namespace Zel3D
-{
+namespace Zel3D {
 
-namespace
-{
+namespace {
 void switchCapability(unsigned int capability, bool on)
 {
     if (on)

@@ -2,8 +2,7 @@
 
 #include "core/export.h"
 
-namespace Zel3D
-{
+namespace Zel3D {
 
 /// Switches one OpenGL capability on or off for the duration of a scope.
 ///

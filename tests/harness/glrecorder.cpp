@@ -1,6 +1,7 @@
 #include "harness/glrecorder.h"
 
 #include <GL/gl.h>
+#include <GL/glu.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -365,6 +366,13 @@ void glLoadIdentity()
     call();
 }
 
+void glLoadMatrixd(const GLdouble* matrix)
+{
+    static auto* const call = next<void(const GLdouble*)>("glLoadMatrixd");
+    note("glLoadMatrixd", matrix[0], matrix[5], matrix[10], matrix[15]);
+    call(matrix);
+}
+
 void glTranslatef(GLfloat x, GLfloat y, GLfloat z)
 {
     static auto* const call = next<void(GLfloat, GLfloat, GLfloat)>("glTranslatef");
@@ -511,5 +519,26 @@ void glDrawPixels(GLsizei width, GLsizei height, GLenum format, GLenum type, con
     static auto* const call = next<void(GLsizei, GLsizei, GLenum, GLenum, const void*)>("glDrawPixels");
     note("glDrawPixels", width, height, format, type);
     call(width, height, format, type, pixels);
+}
+
+void gluCylinder(GLUquadric* quadric, GLdouble base, GLdouble top, GLdouble height, GLint slices, GLint stacks)
+{
+    static auto* const call = next<void(GLUquadric*, GLdouble, GLdouble, GLdouble, GLint, GLint)>("gluCylinder");
+    note("gluCylinder", base, top, height, slices, stacks);
+    call(quadric, base, top, height, slices, stacks);
+}
+
+void gluDisk(GLUquadric* quadric, GLdouble inner, GLdouble outer, GLint slices, GLint loops)
+{
+    static auto* const call = next<void(GLUquadric*, GLdouble, GLdouble, GLint, GLint)>("gluDisk");
+    note("gluDisk", inner, outer, slices, loops);
+    call(quadric, inner, outer, slices, loops);
+}
+
+void gluQuadricDrawStyle(GLUquadric* quadric, GLenum style)
+{
+    static auto* const call = next<void(GLUquadric*, GLenum)>("gluQuadricDrawStyle");
+    note("gluQuadricDrawStyle", style);
+    call(quadric, style);
 }
 }

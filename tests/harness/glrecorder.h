@@ -9,17 +9,20 @@
 /// Records the GL calls of the test program while it lives; every call is still forwarded to the driver.
 ///
 /// The harness defines the recorded entry points in the test program, which come before the driver's when the
-/// library's calls are resolved. Calls of Qt's own libraries are seen as well where these use the linked symbols.
+/// library's calls are resolved. Calls of Qt's own libraries are seen as well where these use the linked
+/// symbols.
 class GLRecorder
 {
 public:
-    struct Vertex {
+    struct Vertex
+    {
         std::array<double, 3> position{};
         std::array<double, 4> color{};  ///< the colour in force, as sent
         std::array<double, 3> normal{}; ///< the normal in force, as sent
     };
     /// One glBegin ... glEnd.
-    struct Primitive {
+    struct Primitive
+    {
         unsigned int mode = 0;
         QVector<Vertex> vertices;
     };

@@ -27,11 +27,9 @@ extern "C" const char* __lsan_default_suppressions()
     return "leak:swrast_dri\nleak:libdbus-1\n";
 }
 
-namespace harness
-{
+namespace harness {
 
-namespace
-{
+namespace {
 
 QStringList& collected()
 {
@@ -67,11 +65,13 @@ int run(int argc, char* argv[], const std::function<std::unique_ptr<QObject>()>&
     }
     QTemporaryDir store;
     if (!store.isValid()) {
-        std::fprintf(stderr, "No temporary folder for the settings store: %s\n", qPrintable(store.errorString()));
+        std::fprintf(stderr, "No temporary folder for the settings store: %s\n",
+                     qPrintable(store.errorString()));
         return 1;
     }
     qputenv("QT_QPA_PLATFORM", "xcb");
-    qputenv("QT_SCALE_FACTOR", qEnvironmentVariableIsSet("VORAN_TEST_SCALE") ? qgetenv("VORAN_TEST_SCALE") : "1");
+    qputenv("QT_SCALE_FACTOR",
+            qEnvironmentVariableIsSet("VORAN_TEST_SCALE") ? qgetenv("VORAN_TEST_SCALE") : "1");
     qputenv("QT_AUTO_SCREEN_SCALE_FACTOR", "0");
     qputenv("XDG_CONFIG_HOME", store.path().toLocal8Bit());
     QLocale::setDefault(QLocale::c());

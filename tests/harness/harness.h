@@ -10,15 +10,14 @@ class QGLWidget;
 class QObject;
 class QWidget;
 
-namespace harness
-{
+namespace harness {
 
 /// Runs the tests of the object that \a make returns; see run<Test>().
 int run(int argc, char* argv[], const std::function<std::unique_ptr<QObject>()>& make);
 
-/// Runs the tests of a class with Qt Test in fixed surroundings: platform xcb, style Fusion, font DejaVu Sans 9,
-/// pixel ratio 1, locale C and a QSettings store in a temporary folder that starts empty. Returns Qt Test's exit
-/// status. Fails where there is no display or no OpenGL.
+/// Runs the tests of a class with Qt Test in fixed surroundings: platform xcb, style Fusion, font DejaVu Sans
+/// 9, pixel ratio 1, locale C and a QSettings store in a temporary folder that starts empty. Returns Qt
+/// Test's exit status. Fails where there is no display or no OpenGL.
 template <class Test>
 int run(int argc, char* argv[])
 {

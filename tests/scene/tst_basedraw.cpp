@@ -11,8 +11,7 @@
 
 using namespace Zel3D;
 
-namespace
-{
+namespace {
 
 const QString organization = "voran-test";
 const QString application = "voran-test";
@@ -45,10 +44,10 @@ public:
 QVector<double> stateNow()
 {
     QVector<double> values;
-    for (int name : {GL_LINE_SMOOTH, GL_POLYGON_SMOOTH, GL_LINE_WIDTH, GL_BLEND_SRC, GL_BLEND_DST,
-                        GL_LINE_STIPPLE_PATTERN, GL_LINE_STIPPLE_REPEAT, GL_LINE_STIPPLE, GL_TEXTURE_2D,
-                        GL_MATRIX_MODE, GL_POLYGON_OFFSET_FACTOR, GL_POLYGON_OFFSET_UNITS,
-                        GL_POLYGON_OFFSET_FILL}) {
+    for (int name :
+         {GL_LINE_SMOOTH, GL_POLYGON_SMOOTH, GL_LINE_WIDTH, GL_BLEND_SRC, GL_BLEND_DST,
+          GL_LINE_STIPPLE_PATTERN, GL_LINE_STIPPLE_REPEAT, GL_LINE_STIPPLE, GL_TEXTURE_2D, GL_MATRIX_MODE,
+          GL_POLYGON_OFFSET_FACTOR, GL_POLYGON_OFFSET_UNITS, GL_POLYGON_OFFSET_FILL}) {
         double value = 0.0;
         glGetDoublev(GLenum(name), &value);
         values.append(value);

@@ -1,0 +1,109 @@
+#include "commandline.h"
+
+#include "plotstyles.h"
+
+#include <QRegularExpression>
+
+namespace {
+
+constexpr int smallestSide = 50;
+constexpr int largestSide = 16384;
+
+} // namespace
+
+CommandLine::CommandLine()
+{
+    m_parser.setApplicationDescription(
+        tr("Shows a grid of heights as an interactive three-dimensional plot."));
+    m_parser.addPositionalArgument("FILE", tr("A grid file of any format that GDAL reads."), "[FILE]");
+    m_parser.addOptions({
+        {"style", tr("Draw the plot in this style: %1.").arg(PlotStyles::names().join(", ")), "NAME"},
+        {"size", tr("Size of the plot in pixels, each side %1 to %2.").arg(smallestSide).arg(largestSide),
+         "WxH"},
+        {"png", tr("Write the plot to this picture and leave."), "PICTURE"},
+        {"band", tr("Band of the file to show, from 1.", "command line"), "N"},
+        {{"h", "help"}, tr("Show this help and leave.")},
+        {{"v", "version"}, tr("Show the version and leave.")},
+    });
+}
+
+CommandLine::Outcome CommandLine::refuse(const QString& sentence)
+{
+    m_text = sentence;
+    return Refuse;
+}
+
+CommandLine::Outcome CommandLine::parse(const QStringList& arguments)
+{
+    if (!m_parser.parse(arguments))
+        return refuse(tr("%1. Try --help.").arg(m_parser.errorText().remove(QRegularExpression("\\.$"))));
+    if (m_parser.isSet("help")) {
+        m_text = m_parser.helpText().trimmed();
+        return Inform;
+    }
+    if (m_parser.isSet("version")) {
+        m_text = tr("voranview %1").arg(QCoreApplication::applicationVersion());
+        return Inform;
+    }
+    return take();
+}
+
+CommandLine::Outcome CommandLine::take()
+{
+    const QStringList files = m_parser.positionalArguments();
+    if (files.size() > 1)
+        return refuse(tr("Only one grid file can be shown; %1 are named.").arg(files.size()));
+    m_file = files.value(0);
+    m_picture = m_parser.value("png");
+    const struct
+    {
+        const char* option;
+        bool (CommandLine::*take)(const QString&);
+    } checks[] = {{"style", &CommandLine::takeStyle},
+                  {"size", &CommandLine::takeSize},
+                  {"band", &CommandLine::takeBand}};
+    for (const auto& check : checks) {
+        if (m_parser.isSet(check.option) && !(this->*check.take)(m_parser.value(check.option)))
+            return Refuse;
+    }
+    if (m_parser.isSet("png") && m_picture.isEmpty())
+        return refuse(tr("The option --png names no picture."));
+    if (m_parser.isSet("png") && m_file.isEmpty())
+        return refuse(tr("A picture needs a grid file to show; none is named."));
+    return Show;
+}
+
+bool CommandLine::takeStyle(const QString& value)
+{
+    m_style = PlotStyles::fromName(value);
+    if (!m_style)
+        refuse(tr("There is no plot style \"%1\"; the styles are %2.")
+                   .arg(value, PlotStyles::names().join(", ")));
+    return m_style.has_value();
+}
+
+bool CommandLine::takeSize(const QString& value)
+{
+    static const QRegularExpression form("^(\\d{1,5})[xX](\\d{1,5})$");
+    const QRegularExpressionMatch match = form.match(value);
+    const QSize size(match.captured(1).toInt(), match.captured(2).toInt());
+    const auto fits = [](int side) { return side >= smallestSide && side <= largestSide; };
+    if (!fits(size.width()) || !fits(size.height())) {
+        refuse(tr("The size \"%1\" is not WIDTHxHEIGHT with both sides from %2 to %3 pixels.")
+                   .arg(value)
+                   .arg(smallestSide)
+                   .arg(largestSide));
+        return false;
+    }
+    m_size = size;
+    return true;
+}
+
+bool CommandLine::takeBand(const QString& value)
+{
+    bool valid = false;
+    m_band = value.toInt(&valid);
+    if (!valid || m_band < 1)
+        refuse(tr("The band \"%1\" is not a whole number from 1.").arg(value));
+    return valid && m_band >= 1;
+}

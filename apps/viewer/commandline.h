@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QSize>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+/// What the person who started the viewer asked for. Needs a QCoreApplication and no display.
+class CommandLine
+{
+    Q_DECLARE_TR_FUNCTIONS(CommandLine)
+
+public:
+    /// What is to be done next: show the plot, or write text() to the standard output or to the standard
+    /// error and leave.
+    enum Outcome { Show, Inform, Refuse };
+
+    CommandLine();
+
+    /// Reads the arguments, the program's name first.
+    Outcome parse(const QStringList& arguments);
+    /// The help, the version or the sentence that says what is wrong with the arguments.
+    const QString& text() const { return m_text; }
+
+    /// The grid file, or empty.
+    const QString& file() const { return m_file; }
+    /// The band of the file, from 1.
+    int band() const { return m_band; }
+    /// The plot style, when one was asked for.
+    std::optional<int> style() const { return m_style; }
+    /// The size of the plot in pixels, when one was asked for.
+    std::optional<QSize> size() const { return m_size; }
+    /// The picture to write, or empty to open a window.
+    const QString& picture() const { return m_picture; }
+
+private:
+    Outcome refuse(const QString& sentence);
+    bool takeStyle(const QString& value);
+    bool takeSize(const QString& value);
+    bool takeBand(const QString& value);
+    Outcome take();
+
+    QCommandLineParser m_parser;
+    QString m_text;
+    QString m_file;
+    QString m_picture;
+    std::optional<int> m_style;
+    std::optional<QSize> m_size;
+    int m_band = 1;
+};

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+/// The plot styles by the names that people type. The numbers are those of the surface plot.
+class PlotStyles
+{
+public:
+    enum Style {
+        NoPlot = 0,
+        Points = 1,
+        Wireframe = 2,
+        HiddenLine = 3,
+        Filled = 4,
+        FilledAndMesh = 5,
+        Histogram = 6
+    };
+
+    /// The names in the order of their numbers: "none", "points", "wireframe" ...
+    static QStringList names();
+    /// The style of a name, or of the text that the plot's own tool bar shows for it, in any case of letters.
+    static std::optional<int> fromName(const QString& name);
+};

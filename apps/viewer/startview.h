@@ -1,0 +1,21 @@
+#pragma once
+
+#include "core/types.h"
+
+/// How a grid stands in the window when it is opened: pure functions of its box.
+namespace StartView {
+
+/// The scale of the axes that shows a terrain well: x and y keep their proportions unless one is more than
+/// four times the other, and the heights take two fifths of the longer side. (1, 1, 1) for a box without
+/// extent in one direction.
+Zel3D::ValueXYZ<double> scale(const Zel3D::Parallelepiped& box);
+
+/// The rotation in degrees: from the south-west and above.
+Zel3D::ValueXYZ<double> rotation();
+
+/// The zoom at which the scaled and rotated box takes the given part of a window's width or height, whichever
+/// it meets first, under a camera that keeps proportions. \a aspect is the window's width / height.
+double zoom(const Zel3D::Parallelepiped& box, const Zel3D::ValueXYZ<double>& scale,
+            const Zel3D::ValueXYZ<double>& rotation, double aspect, double part);
+
+} // namespace StartView

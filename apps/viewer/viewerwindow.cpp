@@ -1,0 +1,249 @@
+#include "viewerwindow.h"
+
+#include "gridfile.h"
+#include "picturefile.h"
+#include "plotstyles.h"
+#include "viewerplot.h"
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QScreen>
+#include <QSettings>
+#include <QStatusBar>
+
+namespace {
+
+constexpr char geometryKey[] = "window/geometry";
+constexpr QSize usualSize(1000, 800);
+constexpr char folderKey[] = "window/folder";
+
+QString droppedFile(const QMimeData& data)
+{
+    const QList<QUrl> urls = data.urls();
+    return urls.size() == 1 ? urls.first().toLocalFile() : QString();
+}
+
+/// The waiting cursor while the object lives.
+class WaitCursor
+{
+public:
+    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~WaitCursor() { QApplication::restoreOverrideCursor(); }
+    WaitCursor(const WaitCursor&) = delete;
+    WaitCursor& operator=(const WaitCursor&) = delete;
+};
+
+} // namespace
+
+ViewerWindow::ViewerWindow()
+    : m_plot(new ViewerPlot),
+      m_description(new QLabel(tr("Open a grid file with File, Open or drop one here."))),
+      m_styles(new QActionGroup(this))
+{
+    setCentralWidget(m_plot);
+    setAcceptDrops(true);
+    setWindowTitle(tr("voranview"));
+    // As long as it is, the text must not keep the window wide.
+    m_description->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    statusBar()->addWidget(m_description, 1);
+    createFileMenu();
+    createPlotMenu();
+    connect(m_plot, &ViewerPlot::plotStyleChanged, this, &ViewerWindow::showStyle);
+    showStyle(m_plot->plotStyle());
+    if (!restoreGeometry(QSettings().value(geometryKey).toByteArray()))
+        resize(usualSize.boundedTo(QGuiApplication::primaryScreen()->availableSize()));
+}
+
+void ViewerWindow::createFileMenu()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&File"));
+    menu->addAction(tr("&Open..."), this, &ViewerWindow::chooseFile, QKeySequence::Open);
+    m_saveAction =
+        menu->addAction(tr("&Save picture..."), this, &ViewerWindow::savePicture, QKeySequence::Save);
+    m_saveAction->setEnabled(false);
+    menu->addSeparator();
+    menu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence(Qt::CTRL + Qt::Key_Q));
+}
+
+QAction* ViewerWindow::addSwitch(QMenu& menu, const QString& text, const QKeySequence& shortcut)
+{
+    QAction* action = menu.addAction(text);
+    action->setCheckable(true);
+    action->setShortcut(shortcut);
+    return action;
+}
+
+void ViewerWindow::addStyleActions(QMenu& menu)
+{
+    const QString texts[] = {tr("&No plot"), tr("&Points"),          tr("&Wireframe"), tr("&Hidden line"),
+                             tr("&Filled"),  tr("Filled and &mesh"), tr("H&istogram")};
+    int style = PlotStyles::NoPlot;
+    for (const QString& text : texts) {
+        QAction* action = addSwitch(menu, text, QKeySequence(QStringLiteral("Ctrl+%1").arg(style)));
+        action->setData(style++);
+        m_styles->addAction(action);
+    }
+    connect(m_styles, &QActionGroup::triggered, this,
+            [this](const QAction* action) { m_plot->slotSetPlotStyle(action->data().toInt()); });
+}
+
+void ViewerWindow::createPlotMenu()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&Plot"));
+    addStyleActions(*menu);
+    menu->addSeparator();
+    m_meshAction = addSwitch(*menu, tr("M&esh lines"), QKeySequence(Qt::CTRL + Qt::Key_M));
+    connect(m_meshAction, &QAction::triggered, m_plot, [this](bool on) {
+        m_plot->slotSetPlotStyle(on ? PlotStyles::FilledAndMesh : PlotStyles::Filled);
+    });
+    m_lightingAction = addSwitch(*menu, tr("&Lighting"), QKeySequence(Qt::CTRL + Qt::Key_L));
+    connect(m_lightingAction, &QAction::triggered, m_plot, &ViewerPlot::slotSetLighting);
+    connect(m_plot, &ViewerPlot::lightingChanged, m_lightingAction, &QAction::setChecked);
+    m_lightingAction->setChecked(m_plot->isLighting());
+    m_perspectiveAction = addSwitch(*menu, tr("Perspecti&ve"), QKeySequence(Qt::CTRL + Qt::Key_E));
+    connect(m_perspectiveAction, &QAction::triggered, m_plot,
+            [this](bool on) { m_plot->slotSetProjectionType(on ? Zel3D::Perspective : Zel3D::Orthogonal); });
+    connect(
+        m_plot, &ViewerPlot::projectionTypeChanged, m_perspectiveAction,
+        [this](Zel3D::ProjectionType type) { m_perspectiveAction->setChecked(type == Zel3D::Perspective); });
+    m_scalingAction = addSwitch(*menu, tr("&Automatic scaling"), QKeySequence(Qt::CTRL + Qt::Key_A));
+    connect(m_scalingAction, &QAction::triggered, m_plot, &ViewerPlot::slotSetAutoScaling);
+    // The plot changes this one by a key without a signal.
+    connect(menu, &QMenu::aboutToShow, m_scalingAction,
+            [this] { m_scalingAction->setChecked(m_plot->isAutoScaling()); });
+    m_scalingAction->setChecked(m_plot->isAutoScaling());
+    menu->addSeparator();
+    menu->addAction(tr("&Reset view"), this, &ViewerWindow::resetView, QKeySequence(Qt::CTRL + Qt::Key_R));
+}
+
+void ViewerWindow::resetView()
+{
+    m_plot->resetView();
+    m_plot->updateGL();
+}
+
+void ViewerWindow::showStyle(int style)
+{
+    const QList<QAction*> actions = m_styles->actions();
+    for (QAction* action : actions) {
+        if (action->data().toInt() == style)
+            action->setChecked(true);
+    }
+    const bool surface = style == PlotStyles::Filled || style == PlotStyles::FilledAndMesh;
+    m_meshAction->setEnabled(surface);
+    m_meshAction->setChecked(style == PlotStyles::FilledAndMesh || style == PlotStyles::Wireframe ||
+                             style == PlotStyles::HiddenLine);
+}
+
+bool ViewerWindow::open(const QString& path, int band, QString& error)
+{
+    const WaitCursor waiting;
+    Grid grid;
+    GridFile reader(path);
+    if (!reader.read(grid, band)) {
+        error = reader.error();
+        return false;
+    }
+    if (!m_plot->load(grid)) {
+        error = tr("\"%1\" cannot be drawn.").arg(path);
+        return false;
+    }
+    m_saveAction->setEnabled(true);
+    describe(path, grid);
+    if (m_plot->isInitialized())
+        m_plot->updateGL();
+    return true;
+}
+
+void ViewerWindow::describe(const QString& path, const Grid& grid)
+{
+    m_fileName = QFileInfo(path).fileName();
+    setWindowTitle(tr("%1 - voranview").arg(m_fileName));
+    const auto range = [](double lower, double upper) {
+        return tr("%1 to %2").arg(lower, 0, 'g', 6).arg(upper, 0, 'g', 6);
+    };
+    QString text =
+        tr("%1 x %2 nodes, x %3, y %4, z %5")
+            .arg(grid.columns)
+            .arg(grid.rows)
+            .arg(range(grid.xMin, grid.xMax), range(grid.yMin, grid.yMax), range(grid.zMin, grid.zMax));
+    if (!grid.unit.isEmpty())
+        text += ' ' + grid.unit;
+    const std::size_t missing = grid.heights.size() - grid.validNodes;
+    if (missing > 0)
+        text = tr("%1, %2 missing").arg(text).arg(missing);
+    m_description->setText(text);
+    m_description->setToolTip(text);
+}
+
+void ViewerWindow::openFile(const QString& path)
+{
+    QString error;
+    if (!open(path, 1, error))
+        QMessageBox::warning(this, tr("Open"), error);
+}
+
+void ViewerWindow::chooseFile()
+{
+    QSettings settings;
+    const QString path =
+        QFileDialog::getOpenFileName(this, tr("Open a grid file"), settings.value(folderKey).toString());
+    if (path.isEmpty())
+        return;
+    settings.setValue(folderKey, QFileInfo(path).absolutePath());
+    openFile(path);
+}
+
+void ViewerWindow::savePicture()
+{
+    QSettings settings;
+    const QString suggestion =
+        QDir(settings.value(folderKey).toString())
+            .filePath(QFileInfo(m_fileName).completeBaseName() + QLatin1String(".png"));
+    QFileDialog dialog(this, tr("Save picture"), suggestion, tr("Pictures (*.png)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix("png");
+    dialog.selectFile(suggestion);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const QString path = dialog.selectedFiles().value(0);
+    PictureFile file(path);
+    if (file.write(m_plot->picture(m_plot->size() * m_plot->devicePixelRatioF())))
+        statusBar()->showMessage(tr("Saved %1").arg(path), 5000);
+    else
+        QMessageBox::warning(this, tr("Save picture"), file.error());
+}
+
+void ViewerWindow::fitPlot(const QSize& size)
+{
+    resize(this->size() + size - m_plot->size());
+}
+
+void ViewerWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!droppedFile(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void ViewerWindow::dropEvent(QDropEvent* event)
+{
+    const QString path = droppedFile(*event->mimeData());
+    if (path.isEmpty())
+        return;
+    event->acceptProposedAction();
+    openFile(path);
+}
+
+void ViewerWindow::closeEvent(QCloseEvent* event)
+{
+    QSettings().setValue(geometryKey, saveGeometry());
+    QMainWindow::closeEvent(event);
+}

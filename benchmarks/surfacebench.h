@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QGLWidget>
+
+#include <memory>
+#include <vector>
+
+namespace bench {
+
+/// Heights of a smooth surface with detail, N by N nodes, and the column pointers that a plot takes.
+class Heights
+{
+public:
+    explicit Heights(int nodes, double phase = 0.0);
+    int size() const { return count; }
+    double** columns() { return pointers.data(); }
+    double at(int column, int row) const
+    {
+        return values[std::size_t(column) * std::size_t(count) + std::size_t(row)];
+    }
+
+private:
+    int count;
+    std::vector<double> values;
+    std::vector<double*> pointers;
+};
+
+/// What is measured: a lit, coloured, filled surface in a window of 800 by 600.
+class Candidate
+{
+public:
+    virtual ~Candidate() = default;
+    /// What the candidate needs before its clock starts.
+    virtual void prepare(Heights& heights) = 0;
+    /// From data in memory to the display list; the frame follows.
+    virtual void load(Heights& heights) = 0;
+    virtual void rotate(double degrees) = 0;
+    virtual QGLWidget& widget() = 0;
+
+    /// Paints and waits until the picture is done.
+    void frame();
+};
+
+/// The same geometry sent by a bare loop from arrays of floats that are ready: positions, normals, colours.
+std::unique_ptr<Candidate> makeFloor(bool multisampling);
+/// The library's surface plot.
+std::unique_ptr<Candidate> makeLibrary(bool multisampling);
+
+/// Shows the candidate's window and waits for it.
+bool show(Candidate& candidate);
+
+/// Starts the program again with malloc told to keep its memory, unless that was done: the software renderer
+/// otherwise gives memory back and faults it in again at some sizes, which can double a frame.
+void keepMemory(char* argv[]);
+
+} // namespace bench

@@ -1,0 +1,244 @@
+#pragma once
+
+#include "core/export.h"
+#include "core/types.h"
+#include "plots/plottypes.h"
+#include "view/displaylist.h"
+#include "view/zelglwidget.h"
+
+#include <QGradient>
+#include <QList>
+
+#include <array>
+#include <memory>
+
+namespace Zel3D {
+
+class Addition;
+class Data;
+class DataColor;
+
+/// The widget that every plot is: the view plus data colouring, additions, display lists, automatic scaling
+/// and the plot's own settings. The subclass supplies the data and the geometry of each plot style.
+///
+/// Setters store, emit their signal and do not repaint; what they change in the geometry is rebuilt at the
+/// next paint. The slots repaint, and do nothing before the view is initialised.
+class VORANPLOT_EXPORT BasePlot : public ZelGLWidget
+{
+    Q_OBJECT
+public:
+    class MeshSettings;
+    class NormalsSettings;
+    class GradientsSettings;
+    class SingleAxesSettings;
+    class BaseAxesSettings;
+    class AxesSettings;
+    class BasePlotSettings;
+
+    /// \a name becomes the object name and the prefix of every settings key.
+    BasePlot(const QString& name, const QString& organization, const QString& application,
+             QWidget* parent = nullptr, const QGLWidget* shareWidget = nullptr, Qt::WindowFlags flags = {});
+    ~BasePlot() override;
+
+    QSize sizeHint() const override;        ///< 400 x 400
+    QSize minimumSizeHint() const override; ///< 50 x 50
+
+    /// @name Reading
+    /// @{
+    const BasePlotSettings& getSettings() const { return *settings; }
+    /// The data that is drawn; may be null.
+    const Data* getData() const { return data; }
+    /// Owned by the plot; may be null.
+    const DataColor* getDataColor() const { return dataColor.get(); }
+    const QGradient& getCurrentGradient() const { return currentGradient; }
+    const QList<Addition*>& getAdditions() const { return additions; }
+    const Addition* getStyleAddition() const { return styleAddition.get(); }
+    /// The box of the data as drawn.
+    const Parallelepiped& getHull() const { return hull; }
+    const Parallelepiped& getFixedHull() const { return fixedHull; }
+    const Pair<double>& getGradientRange() const { return gradientRange; }
+    bool isAutoScaling() const { return autoScaling; }
+    /// The proportions that undo the last automatic scale; see AutoScaling::inverseOf().
+    ValueXYZ<double> getAutoScaleInverse() const;
+    /// Height of the contour plot: the data's maximum z for the top plane, minimum z for the bottom, else 0.
+    double getViewProjectionZ() const;
+    /// @}
+
+    /// @name Changing: true when the value changed; the signal named after the property follows
+    /// @{
+    bool setResolution(int step); ///< node step; below 1 is refused
+    bool setPolygonOffset(double factor);
+    bool setShadingStyle(ShadingStyle style);
+    bool setViewProjection(ViewProjection projection);
+    bool setNormalsVisible(bool on); ///< emits normalsChanged()
+    bool setMeshSmooth(bool on);
+    bool setMeshColor(const QColor& color);
+    bool setMeshLineWidth(double pixels); ///< negative is refused
+    bool setCylinderRibNumber(int ribs);
+    bool setCylinderRadius(double sceneUnits); ///< the signal carries the radius truncated to an int
+    bool setCylinderFrameVisible(bool on);
+    bool setCylinderAngleZ(double degrees);
+    bool setCylinderMultiplier(double factor); ///< emits cylinderMultiplier()
+    bool setDotSize(double pixels);
+    bool setDotSmooth(bool on);
+    bool setAxesScaleType(BaseAxisType axis, ScaleType scale); ///< emits axesScaleChanged()
+    bool setMinorInterval(BaseAxisType axis, ScaleType scale, int count);
+    bool setMajorInterval(BaseAxisType axis, ScaleType scale, int count);
+    /// Keeps the gradient under the name, makes it the current one and colours the data with it; no signal.
+    bool setGradient(const QString& name, const QGradient& gradient);
+    /// On: the hull is drawn as a cube and the user cannot scale. Off: back to the scale before. No signal.
+    bool setAutoScaling(bool on);
+    /// @}
+
+    /// Takes ownership; the previous colouring is deleted. Null draws nothing.
+    void setDataColor(DataColor* coloring);
+    /// The marker of plot style -1; takes ownership, deletes the previous one. Null for none.
+    void setStyleAddition(Addition* addition);
+    /// The value range of the legend and the colours; equal ends switch back to the hull's z range. No
+    /// repaint.
+    void setGradientRange(const Pair<double>& range);
+    /// A box that overrides the data's own; equal corners or a corner at the origin switch it off.
+    void setFixedHull(const Parallelepiped& box);
+    /// Stores the box of the data, rescales and updates the legend. False when it is the stored one, which
+    /// updates the legend alone.
+    bool setHull(const Parallelepiped& box);
+    void updateLegend();
+    /// Takes the box as the scene's corners and places the lights; nothing when it has these corners.
+    void createCoordinateSystem(const QVector3D& firstCorner, const QVector3D& secondCorner);
+    /// The same with the hull, calculated anew.
+    void createCoordinateSystem();
+    /// Marks everything as saved, but for the gradients; see BasePlotSettings::resetNeedSave().
+    void resetNeedSave();
+
+    /// Compile the display lists now: the data and additions, the normals, what can be picked. Each makes the
+    /// plot's context current; without one they are made when it comes.
+    void updateData();
+    void updateNormals();
+    void updateSelection();
+
+protected:
+    void drawWithoutTransform() override;
+    void draw() override;
+
+public:
+    QVector3D first() override;
+    QVector3D second() override;
+
+protected:
+    void select() override;
+    void loadSettings() override;
+    void saveSettings() override;
+
+public:
+    /// Adds a copy of an addition, unless that very object is already held. Returns the last addition held,
+    /// which is the copy when one was made.
+    virtual Addition* addAddition(Addition& addition);
+    /// Deletes an addition of the plot; false when it is none.
+    virtual bool removeAddition(Addition* addition);
+    /// False for a negative style, which changes nothing, and for the style in force. Otherwise deletes the
+    /// style addition; a change emits plotStyleChanged().
+    virtual bool setPlotStyle(int style);
+    /// The range that the colours and the legend span: the gradient range, or the hull's z range when that is
+    /// empty.
+    virtual Pair<double> getLegendRange() const;
+
+public slots:
+    virtual void slotSetResolution(int step);
+    virtual void slotSetPlotStyle(int style);
+    virtual void slotSetShadingStyle(Zel3D::ShadingStyle style);
+    virtual void slotShowNormals(bool on);
+    virtual void slotSetAutoScaling(bool on);
+
+public:
+    /// Switches the kind of container that is drawn; see Data::getDataType().
+    virtual void updateDataType(int type) = 0;
+    /// Empties the plot.
+    virtual void clearData() = 0;
+
+protected:
+    /// Passes the box of the data to setHull().
+    virtual void calculateHull();
+    /// Send the geometry of the data, the normals, the additions; a list is being compiled.
+    virtual void createData();
+    virtual void createNormals() = 0;
+    virtual void createAdditions();
+    virtual void createAddition(Addition& addition);
+    /// Send what can be picked, with its names.
+    virtual void selectData();
+    virtual void selectAdditions();
+    virtual void selectAddition(Addition& addition);
+    virtual int getNumberSelectedData();
+    virtual int getNumberSelectedAdditions();
+    virtual int getNumberSelectedAddition(Addition& addition);
+    /// Applies the automatic scale or the user's to the view.
+    virtual void updateAutoScale();
+    virtual ValueXYZ<double> recalculateAutoScale();
+
+signals:
+    void plotStyleChanged(int style);
+    void normalsChanged(bool visible);
+    void resolutionChanged(int step);
+    void polygonOffsetChanged(double factor);
+    void shadingStyleChanged(Zel3D::ShadingStyle style);
+    void viewProjectionChanged(Zel3D::ViewProjection projection);
+    void meshSmoothChanged(bool on);
+    void meshColorChanged(const QColor& color);
+    void meshLineWidthChanged(double pixels);
+    void cylinderRibNumberChanged(int ribs);
+    void cylinderRadiusChanged(int sceneUnits);
+    void cylinderFrameVisibleChanged(bool on);
+    void cylinderAngleZChanged(double degrees);
+    void cylinderMultiplier(double factor);
+    void dotSizeChanged(double pixels);
+    void dotSmoothChanged(bool on);
+    void autoScalingChanged(bool on);
+    void minorIntervalChanged(unsigned int count);
+    void majorIntervalChanged(unsigned int count);
+    void axesScaleChanged(Zel3D::ScaleType scale);
+
+protected:
+    void initializeGL() override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+    BasePlotSettings& settingsRecord() { return *settings; }
+    Addition* heldStyleAddition() { return styleAddition.get(); }
+    /// Not owned; null for none.
+    void setData(Data* container);
+    /// The data's box, or the fixed box when that is usable; zero where the data has no finite extent.
+    Parallelepiped dataBox() const;
+    /// Whether there is data, a colouring and at least one stop, so that something can be drawn.
+    bool canDrawData() const;
+    /// Frees the list of the data and additions; the context is made current.
+    void removeDataList();
+    /// The geometry is compiled again at the next paint.
+    void markDataChanged() { dataDirty = true; }
+    /// The same, and the normals too: their places or colours changed.
+    void markAllChanged() { dataDirty = normalsDirty = true; }
+
+private:
+    void rebuildWhatChanged();
+    void warnWithoutGradient();
+    void applyShading() const;
+
+    Data* data = nullptr;
+    std::unique_ptr<DataColor> dataColor;
+    std::array<DisplayList, 2> drawingLists; ///< normals; data and additions
+    std::array<DisplayList, 1> selectionLists;
+    const QGLContext* listContext = nullptr; ///< where the lists live
+    bool dataDirty = false;
+    bool normalsDirty = false;
+    bool warnedWithoutGradient = false;
+    std::unique_ptr<Addition> styleAddition;
+    QList<Addition*> additions;
+    QGradient currentGradient;
+    ValueXYZ<double> userScale;
+    ValueXYZ<double> automaticScale;
+    bool autoScaling = false;
+    std::unique_ptr<BasePlotSettings> settings;
+    Parallelepiped hull;
+    Parallelepiped fixedHull;
+    Parallelepiped corners; ///< of the scene
+    Pair<double> gradientRange;
+};
+
+} // namespace Zel3D

@@ -1,0 +1,93 @@
+#pragma once
+
+#include "plots/baseplot.h"
+#include "plots/columncolors.h"
+
+namespace Zel3D {
+
+class ArrowAddition;
+class CellData;
+class GridData;
+
+/// The plot widget for surfaces, point clouds and histograms over a grid or over polygon cells.
+///
+/// Plot styles: 0 no plot, 1 points, 2 wireframe, 3 hidden line, 4 filled, 5 filled and mesh, 6 histogram; -1
+/// is the style addition alone. A height, node or vertex that is not finite is a hole.
+///
+/// \code
+/// Zel3D::SHPlot plot("plot", "My company", "My program");
+/// plot.setGradient("Blue to red", gradient);
+/// plot.setPlotStyle(4);
+/// plot.loadFromData(heights, columns, rows, xMin, xMax, yMin, yMax);
+/// plot.show();
+/// \endcode
+class VORANPLOT_EXPORT SHPlot : public BasePlot
+{
+    Q_OBJECT
+public:
+    SHPlot(const QString& name, const QString& organization, const QString& application,
+           QWidget* parent = nullptr, const QGLWidget* shareWidget = nullptr, Qt::WindowFlags flags = {});
+    ~SHPlot() override;
+
+    /// Loads a regular grid of heights, z[column][row]; the array is copied.
+    ///
+    /// The columns stand evenly from \a xMin to \a xMax, the rows from \a yMin to \a yMax; a descending range
+    /// is drawn ascending. False, with a warning that says what is wrong, and the plot unchanged: for null
+    /// arrays, no columns or rows, ends that are not finite, or a grid too large for memory.
+    bool loadFromData(double** z, unsigned int columns, unsigned int rows, double xMin, double xMax,
+                      double yMin, double yMax);
+    /// Loads a grid of points, points[column][row]; the array is copied. \a stepX and \a stepY are kept as
+    /// the spacing of the data. Refused as above.
+    bool loadFromData(QVector3D** points, unsigned int columns, unsigned int rows, double stepX,
+                      double stepY);
+    /// Loads polygons; each cell names its corners by their index in \a vertices, in winding order. Also
+    /// refused when a cell names a vertex that does not exist.
+    bool loadFromData(const QVector<QVector3D>& vertices, const QVector<QVector<unsigned int>>& cells,
+                      double stepX, double stepY);
+
+    const GridData* getGridData() const { return gridData.get(); }
+    const CellData* getCellData() const { return cellData.get(); }
+
+    /// 0 grid, 1 cells: switching empties the container that was current.
+    void updateDataType(int type) override;
+    void clearData() override;
+
+protected:
+    void calculateHull() override;
+    void createData() override;
+    void createNormals() override;
+    void createAddition(Addition& addition) override;
+
+    void createGridData();
+    void createCellData();
+    /// The contour plot of a grid: the strips of the surface in data colours at one height.
+    void createGridViewProjection();
+    /// The contour plot of cells: each cell as one polygon in data colours at one height.
+    void createCellViewProjection();
+    /// One arrow a node, as long as the settings' fraction of the box's diagonal, in the node's data colour.
+    void createGridNormals();
+    /// The same, one arrow a vertex.
+    void createCellNormals();
+    /// Makes the data colour of a node (a vertex) the current one; \a keep leaves the colour as it is.
+    void setGridColorFromVertex(int column, int row, bool keep);
+    void setCellColorFromVertex(int vertex, bool keep);
+
+private:
+    template <class Container, class Fill>
+    bool load(Container* container, const QString& fault, const Fill& fill);
+    /// The node step of the surface; a stored resolution below 1 counts as 1.
+    int nodeStep() const;
+    bool drawMarkerStyle();
+    void drawGridSurface(int style);
+    void drawGridMesh(int step);
+    void drawCellSurface(int style);
+    void drawCellMesh();
+    bool cellIsWhole(const QVector<unsigned int>& cell) const;
+    void drawNormal(ArrowAddition& arrow, const QVector3D& p, const QVector3D& normal, double length) const;
+
+    std::unique_ptr<GridData> gridData;
+    std::unique_ptr<CellData> cellData;
+    ColumnColors gridColors;
+};
+
+} // namespace Zel3D

@@ -1,0 +1,340 @@
+// What the surface plot sends for each plot style: surfaces, meshes, markers, projections and normals.
+
+#include "core/celldata.h"
+#include "core/griddata.h"
+#include "plots/arrowaddition.h"
+#include "plots/baseplotsettings.h"
+#include "plots/gridwalk.h"
+#include "plots/shplot.h"
+#include "scene/basedraw.h"
+#include "view/glmode.h"
+#include "view/opengl.h"
+
+#include <algorithm>
+
+namespace Zel3D {
+
+namespace {
+
+enum PlotStyle {
+    CustomMarkers = -1,
+    NoPlot = 0,
+    Points = 1,
+    Wireframe = 2,
+    HiddenLine = 3,
+    Filled = 4,
+    FilledAndMesh = 5,
+    Histogram = 6
+};
+
+bool hasMesh(int style)
+{
+    return style == Wireframe || style == HiddenLine || style == FilledAndMesh;
+}
+
+void sendColor(const QColor& color)
+{
+    glColor4d(color.redF(), color.greenF(), color.blueF(), color.alphaF());
+}
+
+/// Blends by alpha for a scope and puts back the blend function and the line width.
+class BlendScope
+{
+public:
+    BlendScope()
+    {
+        glGetIntegerv(GL_BLEND_DST, &destination);
+        glGetIntegerv(GL_BLEND_SRC, &source);
+        glGetFloatv(GL_LINE_WIDTH, &lineWidth);
+        glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
+    }
+    ~BlendScope()
+    {
+        glBlendFunc(GLenum(source), GLenum(destination));
+        BaseDraw::setGLLineWidth(lineWidth);
+    }
+    BlendScope(const BlendScope&) = delete;
+    BlendScope& operator=(const BlendScope&) = delete;
+
+private:
+    int destination = 0;
+    int source = 0;
+    float lineWidth = 1.0F;
+};
+
+/// Not a mode that OpenGL knows: it rejects the call and the polygon mode in force stays.
+constexpr unsigned int keptPolygonMode = 7;
+
+} // namespace
+
+int SHPlot::nodeStep() const
+{
+    return std::max(getSettings().getResolution(), 1);
+}
+
+void SHPlot::createData()
+{
+    if (getData() == gridData.get())
+        createGridData();
+    else if (getData() == cellData.get())
+        createCellData();
+}
+
+void SHPlot::createNormals()
+{
+    if (getData() == gridData.get())
+        createGridNormals();
+    else if (getData() == cellData.get())
+        createCellNormals();
+}
+
+bool SHPlot::drawMarkerStyle()
+{
+    switch (getSettings().getStyle()) {
+    case NoPlot:
+        return true;
+    case Points:
+        createAddition(settingsRecord().getDot());
+        return true;
+    case Histogram:
+        createAddition(settingsRecord().getCylinder());
+        return true;
+    case CustomMarkers:
+        if (heldStyleAddition())
+            createAddition(*heldStyleAddition());
+        return true;
+    default:
+        return false;
+    }
+}
+
+void SHPlot::createGridData()
+{
+    if (!canDrawData())
+        return;
+    const ColumnColors::Use lookUp(gridColors, *gridData, *getDataColor(), nodeStep());
+    createGridViewProjection();
+    if (drawMarkerStyle())
+        return;
+    const int style = getSettings().getStyle();
+    const GLMode offset(GL_POLYGON_OFFSET_FILL, true, false);
+    glPolygonOffset(float(getSettings().getPolygonOffset()), 1.0F);
+    const GLMode smooth(GL_LINE_SMOOTH, getSettings().getMesh().isSmooth(), false);
+    const BlendScope blending;
+    if (style != Wireframe)
+        drawGridSurface(style);
+    if (hasMesh(style))
+        drawGridMesh(nodeStep());
+}
+
+void SHPlot::drawGridSurface(int style)
+{
+    glPolygonMode(GL_FRONT_AND_BACK, keptPolygonMode);
+    const bool keep = style == HiddenLine;
+    if (keep)
+        sendColor(getBackgroundColor());
+    const GridData& grid = *gridData;
+    GridWalk(grid, nodeStep()).strips([&](int column, int row) {
+        setGridColorFromVertex(column, row, keep);
+        glNormal3dv(grid.normalVectorAt(unsigned(column), unsigned(row)));
+        glVertex3dv(grid.valueVectorAt(unsigned(column), unsigned(row)));
+    });
+}
+
+void SHPlot::drawGridMesh(int step)
+{
+    const MeshSettings& mesh = getSettings().getMesh();
+    sendColor(mesh.getColor());
+    const GridWalk walk(*gridData, step);
+    // Without inner lines the border keeps the width in force.
+    if (mesh.isXVisible()) {
+        BaseDraw::setGLLineWidth(float(mesh.getLineWidth()));
+        walk.columnLines();
+    }
+    if (mesh.isYVisible()) {
+        BaseDraw::setGLLineWidth(float(mesh.getLineWidth()));
+        walk.rowLines();
+    }
+    walk.border();
+}
+
+void SHPlot::setGridColorFromVertex(int column, int row, bool keep)
+{
+    if (keep)
+        return;
+    if (!gridColors.isReady()) {
+        sendColor((*getDataColor())(gridData->valueAt(unsigned(column), unsigned(row))));
+        return;
+    }
+    const ColumnColors::Color& color = gridColors.at(column, row);
+    glColor4d(color[0], color[1], color[2], color[3]);
+}
+
+void SHPlot::createGridViewProjection()
+{
+    if (!canDrawData() || gridData->isEmpty() || getSettings().getViewProjection() == NoProjection)
+        return;
+    const BlendScope blending;
+    glPolygonMode(GL_FRONT_AND_BACK, keptPolygonMode);
+    const double height = getViewProjectionZ();
+    const GridData& grid = *gridData;
+    glNormal3d(0.0, 0.0, 1.0);
+    GridWalk(grid, nodeStep()).strips([&](int column, int row) {
+        setGridColorFromVertex(column, row, false);
+        const double* p = grid.valueVectorAt(unsigned(column), unsigned(row));
+        glVertex3d(p[0], p[1], height);
+    });
+}
+
+void SHPlot::drawNormal(ArrowAddition& arrow, const QVector3D& p, const QVector3D& normal,
+                        double length) const
+{
+    arrow.setEnd(p + normal * float(length));
+    arrow.setColor((*getDataColor())(p));
+    arrow.draw(p);
+}
+
+void SHPlot::createGridNormals()
+{
+    if (!canDrawData() || gridData->isEmpty() || getSettings().getStyle() == Histogram)
+        return;
+    ArrowAddition arrow;
+    arrow.setQuality(int(getSettings().getNormals().getQuality()));
+    const double diagonal = double((gridData->getMaximum() - gridData->getMinimum()).length());
+    const double length = diagonal * getSettings().getNormals().getLength();
+    GridWalk(*gridData, nodeStep()).nodes([&](int column, int row) {
+        drawNormal(arrow, gridData->valueAt(unsigned(column), unsigned(row)),
+                   gridData->normalAt(unsigned(column), unsigned(row)), length);
+    });
+}
+
+void SHPlot::createAddition(Addition& addition)
+{
+    if (!getData() || addition.type() != 0)
+        return;
+    const GLMode offset(GL_POLYGON_OFFSET_FILL, true, false);
+    glPolygonOffset(float(getSettings().getPolygonOffset()), 1.0F);
+    const GLMode smooth(GL_LINE_SMOOTH, getSettings().getMesh().isSmooth(), false);
+    const BlendScope blending;
+    addition.setPlot(*this);
+    addition.drawBegin();
+    if (getData() == gridData.get()) {
+        const int step = getSettings().getResolution();
+        if (step > 0)
+            GridWalk(*gridData, step).nodes([&](int column, int row) {
+                addition.draw(gridData->valueAt(unsigned(column), unsigned(row)));
+            });
+    } else {
+        for (int i = 0; i < cellData->getVertices().size(); ++i) {
+            if (!cellData->isMissing(unsigned(i)))
+                addition.draw(cellData->getVertices().at(i));
+        }
+    }
+    addition.drawEnd();
+}
+
+bool SHPlot::cellIsWhole(const QVector<unsigned int>& cell) const
+{
+    return !cellData->hasMissing() ||
+           std::none_of(cell.begin(), cell.end(), [this](unsigned int v) { return cellData->isMissing(v); });
+}
+
+void SHPlot::createCellData()
+{
+    const int style = getSettings().getStyle();
+    qDebug("\n\tSHPlot::createCellData begin plotStyle=%i", style);
+    if (!canDrawData())
+        return;
+    createCellViewProjection();
+    if (drawMarkerStyle())
+        return;
+    BaseDraw::setGLLineWidth(float(getSettings().getMesh().getLineWidth()));
+    const GLMode offset(GL_POLYGON_OFFSET_FILL, true, false);
+    BaseDraw::setGLPolygonOffset(float(getSettings().getPolygonOffset()), 1.0F);
+    const BlendScope blending;
+    if (style != Wireframe)
+        drawCellSurface(style);
+    if (hasMesh(style))
+        drawCellMesh();
+}
+
+void SHPlot::drawCellSurface(int style)
+{
+    glPolygonMode(GL_FRONT_AND_BACK, keptPolygonMode);
+    const bool keep = style == HiddenLine;
+    if (keep)
+        sendColor(getBackgroundColor());
+    for (const QVector<unsigned int>& cell : cellData->getCells()) {
+        if (!cellIsWhole(cell))
+            continue;
+        glBegin(GL_POLYGON);
+        for (unsigned int index : cell) {
+            const auto vertex = int(index);
+            const QVector3D& p = cellData->getVertices().at(vertex);
+            const QVector3D& n = cellData->getVertexNormals().at(vertex);
+            setCellColorFromVertex(vertex, keep);
+            // The normal comes after the vertex and takes effect for the following corner.
+            glVertex3d(double(p.x()), double(p.y()), double(p.z()));
+            glNormal3d(double(n.x()), double(n.y()), double(n.z()));
+        }
+        glEnd();
+    }
+}
+
+void SHPlot::drawCellMesh()
+{
+    sendColor(getSettings().getMesh().getColor());
+    for (const QVector<unsigned int>& cell : cellData->getCells()) {
+        if (!cellIsWhole(cell))
+            continue;
+        glBegin(GL_LINE_LOOP);
+        for (unsigned int index : cell) {
+            const QVector3D& p = cellData->getVertices().at(int(index));
+            glVertex3d(double(p.x()), double(p.y()), double(p.z()));
+        }
+        glEnd();
+    }
+}
+
+void SHPlot::setCellColorFromVertex(int vertex, bool keep)
+{
+    if (!keep)
+        sendColor((*getDataColor())(cellData->getVertices().at(vertex)));
+}
+
+void SHPlot::createCellViewProjection()
+{
+    if (!canDrawData() || cellData->isEmpty() || getSettings().getViewProjection() == NoProjection)
+        return;
+    const BlendScope blending;
+    glPolygonMode(GL_FRONT_AND_BACK, keptPolygonMode);
+    const double height = getViewProjectionZ();
+    for (const QVector<unsigned int>& cell : cellData->getCells()) {
+        if (!cellIsWhole(cell))
+            continue;
+        glBegin(GL_POLYGON);
+        for (unsigned int index : cell) {
+            const QVector3D& p = cellData->getVertices().at(int(index));
+            setCellColorFromVertex(int(index), false);
+            glVertex3d(double(p.x()), double(p.y()), height);
+            glNormal3d(0.0, 0.0, 1.0);
+        }
+        glEnd();
+    }
+}
+
+void SHPlot::createCellNormals()
+{
+    if (!canDrawData() || cellData->isEmpty() || getSettings().getStyle() == Histogram)
+        return;
+    ArrowAddition arrow;
+    arrow.setQuality(int(getSettings().getNormals().getQuality()));
+    const double diagonal = double((cellData->getMaximum() - cellData->getMinimum()).length());
+    const double length = diagonal * getSettings().getNormals().getLength();
+    for (int i = 0; i < cellData->getVertices().size(); ++i) {
+        if (!cellData->isMissing(unsigned(i)))
+            drawNormal(arrow, cellData->getVertices().at(i), cellData->getVertexNormals().at(i), length);
+    }
+}
+
+} // namespace Zel3D

@@ -1,0 +1,38 @@
+#include "plots/sphereaddition.h"
+
+#include "view/glscopes.h"
+
+namespace Zel3D {
+
+SphereAddition::SphereAddition(double sceneUnits, const QColor& fixedColor, int sliceCount, int stackCount)
+    : radius(sceneUnits), color(fixedColor), slices(sliceCount), stacks(stackCount)
+{
+}
+
+bool SphereAddition::setRadius(double sceneUnits)
+{
+    return store(radius, sceneUnits);
+}
+
+bool SphereAddition::setColor(const QColor& value)
+{
+    return store(color, value);
+}
+
+Addition* SphereAddition::clone() const
+{
+    return new SphereAddition(*this);
+}
+
+void SphereAddition::draw(const QVector3D& p)
+{
+    if (!plot)
+        return;
+    const ModelViewScope matrix;
+    glTranslatef(p.x(), p.y(), p.z());
+    const Quadric quadric(GLU_FILL);
+    sendColor(color);
+    gluSphere(quadric.get(), radius, slices, stacks);
+}
+
+} // namespace Zel3D

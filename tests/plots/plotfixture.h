@@ -1,0 +1,98 @@
+#pragma once
+
+#include "plots/baseplotsettings.h"
+#include "plots/shplot.h"
+
+#include <QColor>
+#include <QImage>
+#include <QString>
+#include <QVector>
+
+#include <functional>
+
+namespace fixture {
+
+inline const QString organization = "voran-test";
+inline const QString application = "voran-test";
+
+/// Heights in the shape that a plot takes: columns first.
+class Heights
+{
+public:
+    Heights(int columns, int rows, const std::function<double(int, int)>& height)
+        : columnCount(unsigned(columns)), rowCount(unsigned(rows)), values(columns * rows)
+    {
+        for (int i = 0; i < columns; ++i) {
+            starts.append(&values[i * rows]);
+            for (int j = 0; j < rows; ++j)
+                values[i * rows + j] = height(i, j);
+        }
+    }
+    /// Loads the nodes at x = column, y = row.
+    bool into(Zel3D::SHPlot& plot)
+    {
+        return plot.loadFromData(starts.data(), columnCount, rowCount, 0.0, columnCount - 1.0, 0.0,
+                                 rowCount - 1.0);
+    }
+    double** data() { return starts.data(); }
+
+private:
+    unsigned int columnCount;
+    unsigned int rowCount;
+    QVector<double> values;
+    QVector<double*> starts;
+};
+
+/// Black to (200, 100, 50): over the heights 0 to 10 a height of 5 is (100, 50, 25).
+inline QLinearGradient ramp()
+{
+    QLinearGradient gradient;
+    gradient.setColorAt(0.0, QColor(0, 0, 0));
+    gradient.setColorAt(1.0, QColor(200, 100, 50));
+    return gradient;
+}
+
+/// One colour for everything.
+inline QLinearGradient plain(const QColor& color)
+{
+    QLinearGradient gradient;
+    gradient.setColorAt(0.0, color);
+    return gradient;
+}
+
+/// A plot of the surface over a gradient, with the operations that subclasses see.
+class Plot : public Zel3D::SHPlot
+{
+public:
+    explicit Plot(const QString& name = "plot", const QGLWidget* share = nullptr)
+        : SHPlot(name, fixture::organization, fixture::application, nullptr, share)
+    {
+        setGradient("ramp", ramp());
+    }
+
+    using SHPlot::canDrawData;
+    using SHPlot::createAddition;
+    using SHPlot::createGridViewProjection;
+    using SHPlot::initializeGL;
+    using SHPlot::isContextCurrent;
+    using SHPlot::settingsRecord;
+};
+
+/// The plane z = column + 10 * row: no two nodes of a small grid have the same height.
+inline double plane(int column, int row)
+{
+    return column + 10.0 * row;
+}
+
+/// How many pixels of a picture have a colour.
+inline int pixels(const QImage& image, const QColor& color)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            count += image.pixelColor(x, y).rgb() == color.rgb() ? 1 : 0;
+    }
+    return count;
+}
+
+} // namespace fixture

@@ -1,0 +1,231 @@
+#include "harness/harness.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QSet>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+struct Outcome
+{
+    int status = -1; ///< -1 when the program crashed or did not end
+    QString output;
+    QString errors;
+};
+
+enum class Screen { None, Absent, Virtual };
+
+Outcome runViewer(const QStringList& arguments, Screen screen = Screen::Virtual)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    if (screen != Screen::Virtual) {
+        for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+            environment.remove(name);
+    }
+    if (screen == Screen::Absent)
+        environment.insert("DISPLAY", ":987");
+    // The driver's own allocations cannot be told from the program's once it is unloaded.
+    environment.insert("ASAN_OPTIONS", "detect_leaks=0");
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(VORANVIEW, arguments);
+    const bool ended = process.waitForFinished(100000) && process.exitStatus() == QProcess::NormalExit;
+    return {ended ? process.exitCode() : -1, QString::fromLocal8Bit(process.readAllStandardOutput()),
+            QString::fromLocal8Bit(process.readAllStandardError())};
+}
+
+const QString example = QString(VORAN_SOURCE_DIR) + "/examples/data/jacksboro_dem.asc";
+
+/// How many pixels of a picture are of a kind.
+template <class Kind>
+int pixels(const QImage& image, const Kind& kind)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            count += kind(QColor(image.pixel(x, y))) ? 1 : 0;
+    }
+    return count;
+}
+
+int colours(const QImage& image)
+{
+    QSet<QRgb> found;
+    pixels(image, [&found](const QColor& colour) {
+        found.insert(colour.rgb());
+        return false;
+    });
+    return found.size();
+}
+
+bool isGreen(const QColor& colour)
+{
+    return colour.green() > colour.red() + 10 && colour.green() > colour.blue() + 10;
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Screen)
+
+class TestVoranview : public QObject
+{
+    Q_OBJECT
+private slots:
+    void wordsNeedNoDisplay_data();
+    void wordsNeedNoDisplay();
+    void refusalsAreOneSentence_data();
+    void refusalsAreOneSentence();
+    void pictureHasTheSizeAndTheRelief_data();
+    void pictureHasTheSizeAndTheRelief();
+    void stylesDiffer();
+    void failureLeavesAnExistingPicture();
+
+private:
+    QTemporaryDir m_folder;
+};
+
+void TestVoranview::wordsNeedNoDisplay_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::addColumn<QString>("word");
+    QTest::newRow("help names a style") << "--help"
+                                        << "histogram";
+    QTest::newRow("help names the options") << "-h"
+                                            << "--png";
+    QTest::newRow("version") << "--version"
+                             << "voranview 1.";
+}
+
+void TestVoranview::wordsNeedNoDisplay()
+{
+    QFETCH(QString, option);
+    QFETCH(QString, word);
+    const Outcome outcome = runViewer({option}, Screen::None);
+    QCOMPARE(outcome.status, 0);
+    QVERIFY2(outcome.output.contains(word), qPrintable(outcome.output));
+    QCOMPARE(outcome.errors, QString());
+}
+
+void TestVoranview::refusalsAreOneSentence_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<Screen>("screen");
+    QTest::addColumn<QString>("words");
+    const QString picture = m_folder.filePath("refused.png");
+    QTest::newRow("unknown style")
+        << QStringList{"--style", "fancy", example} << Screen::None
+        << "\"fancy\"; the styles are none, points, wireframe, hidden, filled, mesh, "
+           "histogram.";
+    QTest::newRow("size too small") << QStringList{"--size", "49x50", example} << Screen::None << "\"49x50\"";
+    QTest::newRow("size too large") << QStringList{"--size", "50x16385", example} << Screen::None
+                                    << "\"50x16385\"";
+    QTest::newRow("size without form") << QStringList{"--size", "800", example} << Screen::None << "\"800\"";
+    QTest::newRow("band") << QStringList{"--band", "0", example} << Screen::None << "\"0\"";
+    QTest::newRow("unknown option") << QStringList{"--fast"} << Screen::None << "fast";
+    QTest::newRow("two files") << QStringList{"a.asc", "b.asc"} << Screen::None << "Only one grid file";
+    QTest::newRow("picture of nothing")
+        << QStringList{"--png", picture} << Screen::None << "needs a grid file";
+    QTest::newRow("no display") << QStringList{example} << Screen::None << "set DISPLAY";
+    QTest::newRow("display that is not there") << QStringList{example} << Screen::Absent << "set DISPLAY";
+    QTest::newRow("missing file") << QStringList{"missing.asc"} << Screen::Virtual
+                                  << "\"missing.asc\" does not exist";
+    QTest::newRow("missing file for a picture") << QStringList{"missing.asc", "--png", picture}
+                                                << Screen::Virtual << "\"missing.asc\" does not exist";
+    QTest::newRow("no grid") << QStringList{VORANVIEW, "--png", picture} << Screen::Virtual
+                             << "no grid file of a known format";
+    QTest::newRow("missing folder") << QStringList{example, "--png", m_folder.filePath("no/such/a.png")}
+                                    << Screen::Virtual << "the folder";
+    QTest::newRow("folder below a file")
+        << QStringList{example, "--png", example + "/a.png"} << Screen::Virtual << "the folder";
+    QTest::newRow("folder as picture")
+        << QStringList{example, "--png", m_folder.path()} << Screen::Virtual << "it is a folder";
+}
+
+void TestVoranview::refusalsAreOneSentence()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(Screen, screen);
+    QFETCH(QString, words);
+    const Outcome outcome = runViewer(arguments, screen);
+    QCOMPARE(outcome.status, 1);
+    QVERIFY2(outcome.errors.contains(words), qPrintable(outcome.errors));
+    QVERIFY2(outcome.errors.startsWith("voranview: ") && outcome.errors.count('\n') == 1,
+             qPrintable(outcome.errors));
+    QCOMPARE(outcome.output, QString());
+    QVERIFY(QDir(m_folder.path()).isEmpty());
+}
+
+void TestVoranview::pictureHasTheSizeAndTheRelief_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("usual") << QSize(800, 600);
+    QTest::newRow("small") << QSize(300, 200);
+    QTest::newRow("wider than the screen") << QSize(2500, 400);
+}
+
+void TestVoranview::pictureHasTheSizeAndTheRelief()
+{
+    QFETCH(QSize, size);
+    const QString path = m_folder.filePath("relief.png");
+    const Outcome outcome =
+        runViewer({example, "--png", path, "--size", QString("%1x%2").arg(size.width()).arg(size.height())});
+    QCOMPARE(outcome.errors, QString());
+    QCOMPARE(outcome.status, 0);
+    QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files), QStringList{"relief.png"});
+    const QImage image(path);
+    QCOMPARE(image.size(), size);
+    QVERIFY2(colours(image) > 500, qPrintable(QString::number(colours(image))));
+    // The low country is green and takes a good part of the picture; the corners are background.
+    const int shorter = qMin(size.width(), size.height());
+    QVERIFY(pixels(image, isGreen) > shorter * shorter / 10);
+    QCOMPARE(QColor(image.pixel(0, 0)), QColor(Qt::white));
+    QCOMPARE(QColor(image.pixel(0, size.height() - 1)), QColor(Qt::white));
+    QVERIFY(QFile::remove(path));
+}
+
+void TestVoranview::stylesDiffer()
+{
+    // The plot's own words for the styles serve too, in any case of letters.
+    QMap<QString, QImage> images;
+    for (const QString style :
+         {"none", "POINTS", "wireframe", "Hidden line", "filled", "mesh", "histogram"}) {
+        const QString path = m_folder.filePath("style.png");
+        const Outcome outcome = runViewer({example, "--style", style, "--png", path, "--size", "400x300"});
+        QVERIFY2(outcome.status == 0, qPrintable(outcome.errors));
+        const QImage image(path);
+        for (const QImage& other : qAsConst(images))
+            QVERIFY2(image != other, qPrintable(style));
+        images.insert(style, image);
+    }
+    const auto green = [&images](const char* style) { return pixels(images.value(style), isGreen); };
+    QCOMPARE(green("none"), 0);
+    QCOMPARE(green("wireframe"), 0);
+    QCOMPARE(green("Hidden line"), 0);
+    for (const char* style : {"POINTS", "filled", "mesh", "histogram"})
+        QVERIFY2(green(style) > 4000, style);
+    const auto dark = [&images](const char* style) {
+        return pixels(images.value(style), [](const QColor& colour) { return colour.lightness() < 80; });
+    };
+    QVERIFY2(2 * dark("mesh") > 3 * dark("filled"),
+             qPrintable(QString("%1 %2").arg(dark("mesh")).arg(dark("filled"))));
+}
+
+void TestVoranview::failureLeavesAnExistingPicture()
+{
+    const QString path = m_folder.filePath("kept.png");
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("old") == 3);
+    file.close();
+    QCOMPARE(runViewer({example, "--band", "2", "--png", path}).status, 1);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("old"));
+}
+
+int main(int argc, char* argv[])
+{
+    return harness::run<TestVoranview>(argc, argv);
+}
+
+#include "tst_voranview.moc"
