@@ -63,6 +63,9 @@ void TestColorTable::lookup_data()
     QTest::newRow("range beyond double") << mixed << 0.0 << -1.5e308 << 1.5e308 << first;
     QTest::newRow("on a doubled stop") << doubled << 0.5 << 0.0 << 1.0 << QColor(100, 0, 0);
     QTest::newRow("behind a doubled stop") << doubled << 0.75 << 0.0 << 1.0 << QColor(127, 177, 127);
+    QTest::newRow("before a doubled first stop")
+        << QGradientStops{{0.5, white}, {0.5, QColor(100, 100, 100)}, {1.0, QColor(200, 100, 0)}} << 0.25
+        << 0.0 << 1.0 << QColor(50, 100, 150);
     QTest::newRow("coincident stops, inside") << coincident << 0.5 << 0.0 << 1.0 << none;
     QTest::newRow("coincident stops, above") << coincident << 2.0 << 0.0 << 1.0 << last;
     QTest::newRow("before the first stop") << inner << 0.25 << 0.0 << 1.0 << none;

@@ -190,9 +190,9 @@ void TestGridData::heightBox()
 
 void TestGridData::pointGrid()
 {
-    // The extremes of the three components lie in different nodes; the hole's are larger than all.
+    // The extremes of the three components lie in different nodes; the hole lies beyond all.
     const float nan = std::numeric_limits<float>::quiet_NaN();
-    const QVector3D given[4] = {{-3, 2, 0}, {1, -5, 4}, {7, 0, -1}, {100, nan, 100}};
+    const QVector3D given[4] = {{-3, 2, 0}, {1, -5, 4}, {7, 0, -1}, {-100, nan, 100}};
     Points points(2, 2, [&](unsigned i, unsigned j) { return given[2 * i + j]; });
     GridData grid;
     grid.setRange(1, 2, 3, 4);
