@@ -9,6 +9,15 @@ namespace {
 constexpr int smallestSide = 50;
 constexpr int largestSide = 16384;
 
+QStringList lookNames()
+{
+    QStringList names;
+    const QList<Zel3D::Look> looks = Zel3D::Look::all();
+    for (const Zel3D::Look& look : looks)
+        names.append(look.name.toLower());
+    return names;
+}
+
 } // namespace
 
 CommandLine::CommandLine()
@@ -18,6 +27,7 @@ CommandLine::CommandLine()
     m_parser.addPositionalArgument("FILE", tr("A grid file of any format that GDAL reads."), "[FILE]");
     m_parser.addOptions({
         {"style", tr("Draw the plot in this style: %1.").arg(PlotStyles::names().join(", ")), "NAME"},
+        {"look", tr("Dress the plot in this look: %1.").arg(lookNames().join(", ")), "NAME"},
         {"size", tr("Size of the plot in pixels, each side %1 to %2.").arg(smallestSide).arg(largestSide),
          "WxH"},
         {"png", tr("Write the plot to this picture and leave."), "PICTURE"},
@@ -60,6 +70,7 @@ CommandLine::Outcome CommandLine::take()
         const char* option;
         bool (CommandLine::*take)(const QString&);
     } checks[] = {{"style", &CommandLine::takeStyle},
+                  {"look", &CommandLine::takeLook},
                   {"size", &CommandLine::takeSize},
                   {"band", &CommandLine::takeBand}};
     for (const auto& check : checks) {
@@ -80,6 +91,18 @@ bool CommandLine::takeStyle(const QString& value)
         refuse(tr("There is no plot style \"%1\"; the styles are %2.")
                    .arg(value, PlotStyles::names().join(", ")));
     return m_style.has_value();
+}
+
+bool CommandLine::takeLook(const QString& value)
+{
+    const QList<Zel3D::Look> looks = Zel3D::Look::all();
+    for (const Zel3D::Look& look : looks) {
+        if (look.name.compare(value, Qt::CaseInsensitive) == 0)
+            m_look = look;
+    }
+    if (!m_look)
+        refuse(tr("There is no look \"%1\"; the looks are %2.").arg(value, lookNames().join(", ")));
+    return m_look.has_value();
 }
 
 bool CommandLine::takeSize(const QString& value)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "plots/look.h"
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QSize>
@@ -31,6 +33,8 @@ public:
     int band() const { return m_band; }
     /// The plot style, when one was asked for.
     std::optional<int> style() const { return m_style; }
+    /// The look, when one was asked for.
+    const std::optional<Zel3D::Look>& look() const { return m_look; }
     /// The size of the plot in pixels, when one was asked for.
     std::optional<QSize> size() const { return m_size; }
     /// The picture to write, or empty to open a window.
@@ -39,6 +43,7 @@ public:
 private:
     Outcome refuse(const QString& sentence);
     bool takeStyle(const QString& value);
+    bool takeLook(const QString& value);
     bool takeSize(const QString& value);
     bool takeBand(const QString& value);
     Outcome take();
@@ -48,6 +53,7 @@ private:
     QString m_file;
     QString m_picture;
     std::optional<int> m_style;
+    std::optional<Zel3D::Look> m_look;
     std::optional<QSize> m_size;
     int m_band = 1;
 };

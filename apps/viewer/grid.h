@@ -33,6 +33,8 @@ struct Grid
     double zMin = std::numeric_limits<double>::quiet_NaN(); ///< the smallest height
     double zMax = std::numeric_limits<double>::quiet_NaN(); ///< the largest height
     std::size_t validNodes = 0;                             ///< how many nodes have a height
+    QString xName = QStringLiteral("x");                    ///< what x is, with its unit
+    QString yName = QStringLiteral("y");                    ///< what y is, with its unit
     QString name;                                           ///< what the file calls the heights, or empty
     QString unit;                                           ///< the unit of the heights, or empty
     std::vector<double> heights;

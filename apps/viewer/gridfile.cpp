@@ -13,6 +13,7 @@
 #include <new>
 
 #include <gdal.h>
+#include <ogr_srs_api.h>
 
 namespace {
 
@@ -166,6 +167,30 @@ bool GridFile::place(void* dataset, GridPlacement& placement)
     return true;
 }
 
+void GridFile::nameAxes(void* dataset, Grid& grid)
+{
+    double transform[6];
+    if (GDALGetGeoTransform(dataset, transform) != CE_None) {
+        grid.xName = tr("Column");
+        grid.yName = tr("Row, from the bottom");
+        return;
+    }
+    OGRSpatialReferenceH reference = GDALGetSpatialRef(dataset);
+    if (!reference)
+        return;
+    if (OSRIsGeographic(reference)) {
+        grid.xName = tr("Longitude (\302\260)");
+        grid.yName = tr("Latitude (\302\260)");
+    } else if (OSRIsProjected(reference)) {
+        char* unit = nullptr;
+        OSRGetLinearUnits(reference, &unit);
+        const QString name = QString::fromUtf8(unit);
+        const QString text = name == "metre" || name == "meter" ? QStringLiteral("m") : name;
+        grid.xName = tr("Easting (%1)").arg(text);
+        grid.yName = tr("Northing (%1)").arg(text);
+    }
+}
+
 bool GridFile::fill(void* band, const GridPlacement& placement, Grid& grid)
 {
     static const QRegularExpression origin("^.*, band \\d+: ");
@@ -200,6 +225,7 @@ bool GridFile::read(Grid& grid, int bandNumber)
     found.xMax = placement.xMax;
     found.yMin = placement.yMin;
     found.yMax = placement.yMax;
+    nameAxes(dataset.get(), found);
     found.name = QString::fromUtf8(GDALGetDescription(band));
     found.unit = QString::fromUtf8(GDALGetRasterUnitType(band));
     if (!fill(band, placement, found))

@@ -33,6 +33,8 @@ private:
     bool checkBand(void* dataset, int band);
     bool checkMemory(int columns, int rows);
     bool place(void* dataset, GridPlacement& placement);
+    /// What x and y are, as far as the file's georeferencing tells.
+    static void nameAxes(void* dataset, Grid& grid);
     bool fill(void* band, const GridPlacement& placement, Grid& grid);
 
     QString m_name;

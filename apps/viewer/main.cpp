@@ -6,6 +6,7 @@
 #include "viewerwindow.h"
 
 #include <QApplication>
+#include <QFileInfo>
 
 #include <cstdio>
 
@@ -37,7 +38,9 @@ int takePicture(const CommandLine& wanted)
     plot.resize(size / plot.devicePixelRatioF());
     if (wanted.style())
         plot.setPlotStyle(*wanted.style());
-    if (!plot.load(grid))
+    if (wanted.look())
+        plot.setLook(*wanted.look());
+    if (!plot.load(grid, QFileInfo(wanted.file()).fileName()))
         return refuse(CommandLine::tr("\"%1\" cannot be drawn.").arg(wanted.file()));
     const QImage picture = plot.picture(size);
     if (picture.isNull())
@@ -51,6 +54,8 @@ int takePicture(const CommandLine& wanted)
 int showWindow(const CommandLine& wanted)
 {
     ViewerWindow window;
+    if (wanted.look())
+        window.plot().setLook(*wanted.look());
     if (wanted.style())
         window.plot().setPlotStyle(*wanted.style());
     QString error;

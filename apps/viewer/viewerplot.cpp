@@ -3,6 +3,7 @@
 #include "grid.h"
 #include "plots/baseplotsettings.h"
 #include "plotstyles.h"
+#include "scene/coordinatesystem.h"
 #include "startview.h"
 #include "terraingradient.h"
 #include "thinning.h"
@@ -11,6 +12,7 @@
 #include <QGLFramebufferObject>
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
@@ -45,9 +47,7 @@ int nodesAcross(int style)
 ViewerPlot::ViewerPlot(QWidget* parent)
     : SHPlot(QStringLiteral("plot"), QStringLiteral("VORAN"), QStringLiteral("voranview"), parent)
 {
-    setGradient(tr("Terrain"), terrainGradient());
-    setMeshColor(QColor(30, 30, 30, 170));
-    setPolygonOffset(1.0);
+    setLook(Zel3D::Look::light());
     setPlotStyle(PlotStyles::Filled);
     setCylinderRibNumber(4);
     setDotSize(3.0);
@@ -70,7 +70,30 @@ void ViewerPlot::lightFromNorthWest()
     setLighting(true);
 }
 
-bool ViewerPlot::load(Grid& grid)
+void ViewerPlot::setLook(const Zel3D::Look& look)
+{
+    Zel3D::Look terrain = look;
+    terrain.gradientName = tr("Terrain");
+    terrain.gradient = terrainGradient();
+    terrain.applyTo(*this);
+}
+
+void ViewerPlot::nameAxes(const Grid& grid)
+{
+    const QString height = grid.name.isEmpty() ? tr("z") : grid.name;
+    const QString names[] = {grid.xName, grid.yName,
+                             grid.unit.isEmpty() ? height : tr("%1 (%2)").arg(height, grid.unit)};
+    const std::array<Zel3D::AxisType, 4> parallels[] = {
+        {Zel3D::XFrontBottom, Zel3D::XFrontTop, Zel3D::XBackTop, Zel3D::XBackBottom},
+        {Zel3D::YLeftBottom, Zel3D::YLeftTop, Zel3D::YRightTop, Zel3D::YRightBottom},
+        {Zel3D::ZBackLeft, Zel3D::ZFrontLeft, Zel3D::ZBackRight, Zel3D::ZFrontRight}};
+    for (int direction = 0; direction < 3; ++direction) {
+        for (Zel3D::AxisType edge : parallels[direction])
+            getCoordinateSystem().getAxis(edge).getLabel().getSettings().setText(names[direction]);
+    }
+}
+
+bool ViewerPlot::load(Grid& grid, const QString& heading)
 {
     m_columns = grid.columns;
     m_rows = grid.rows;
@@ -78,6 +101,10 @@ bool ViewerPlot::load(Grid& grid)
     const bool loaded =
         loadFromData(grid.z(), static_cast<unsigned int>(grid.columns), static_cast<unsigned int>(grid.rows),
                      grid.xMin, grid.xMax, grid.yMin, grid.yMax);
+    if (loaded) {
+        slotSetTitle(heading);
+        nameAxes(grid);
+    }
     resetView();
     return loaded;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "plots/look.h"
 #include "plots/shplot.h"
 
 #include <QImage>
@@ -14,8 +15,11 @@ class ViewerPlot : public Zel3D::SHPlot
 public:
     explicit ViewerPlot(QWidget* parent = nullptr);
 
-    /// Shows a grid from the start view; the plot keeps a copy. False when the plot does not take it.
-    bool load(Grid& grid);
+    /// Shows a grid from the start view under a title; the plot keeps a copy. False when the plot does not
+    /// take it.
+    bool load(Grid& grid, const QString& title);
+    /// Dresses the plot; the terrain keeps its own gradient.
+    void setLook(const Zel3D::Look& look);
     /// Puts rotation, shift and zoom back to the start view, without repainting.
     void resetView();
     /// The plot at this size in device pixels, which has the widget's proportions, whatever the screen shows
@@ -34,6 +38,7 @@ protected:
 private:
     void fit();
     void lightFromNorthWest();
+    void nameAxes(const Grid& grid);
     void adaptResolution(int style);
 
     int m_columns = 0;

@@ -152,7 +152,7 @@ bool ViewerWindow::open(const QString& path, int band, QString& error)
         error = reader.error();
         return false;
     }
-    if (!m_plot->load(grid)) {
+    if (!m_plot->load(grid, QFileInfo(path).fileName())) {
         error = tr("\"%1\" cannot be drawn.").arg(path);
         return false;
     }
