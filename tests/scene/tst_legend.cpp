@@ -583,6 +583,7 @@ void TestLegend::leavesTheTitleItsRoom()
         draw(legend);
         canvas.paint = [&] { title.draw(); };
         canvas.updateGL();
+        canvas.paint = [] {};
         QVERIFY(!title.getRectangle().isNull());
         QVERIFY(!legend.getRectangle().intersects(title.getRectangle()));
         title.setRelativePosition(QPointF(0.5, 0.1));
