@@ -1,6 +1,7 @@
 #include "surfacebench.h"
 
 #include "plots/shplot.h"
+#include "scene/legend.h"
 #include "view/light.h"
 
 #include <QCoreApplication>
@@ -161,6 +162,7 @@ public:
         plot.setLighting(true);
         plot.getLights().at(1)->setOn(true);
         plot.setRotation({40.0, 0.0, 0.0});
+        plot.getLegend().setVisible(false); // the floor has none
     }
     void prepare(Heights& /*heights*/) override {}
     void load(Heights& heights) override

@@ -19,6 +19,9 @@ namespace {
 // Of the window's width or height at the start; the rest is for the numbers on the axes and the legend.
 constexpr double startPart = 0.75;
 
+// In radii of the view: to the left, where no legend stands.
+constexpr double startShift = -0.06;
+
 constexpr int linesAcross = 80;
 constexpr int pointsAcross = 130;
 constexpr int markersAcross = 60;
@@ -118,7 +121,7 @@ void ViewerPlot::resetView()
 {
     setRotation(StartView::rotation());
     setShift({0.0, 0.0, 0.0});
-    setViewportShift({0.0, 0.0});
+    setViewportShift({startShift, 0.0});
     fit();
 }
 

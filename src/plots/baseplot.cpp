@@ -29,6 +29,9 @@ bool isOrigin(const QVector3D& p)
     return p.x() == 0.0F && p.y() == 0.0F && p.z() == 0.0F;
 }
 
+/// Logical pixels between the title and the numbers of a standing legend.
+constexpr double titleGap = 16.0;
+
 /// The state that a compiled list may leave behind.
 constexpr unsigned int listState = GL_ENABLE_BIT | GL_LINE_BIT | GL_POINT_BIT | GL_POLYGON_BIT |
                                    GL_COLOR_BUFFER_BIT | GL_CURRENT_BIT | GL_TRANSFORM_BIT;
@@ -119,7 +122,20 @@ double BasePlot::titleDepth() const
     const double fromTop = 1.0 - title->getRelativePosition().y();
     if (!title->isVisible() || text.trimmed().isEmpty() || fromTop > 0.5)
         return 0.0;
-    return fromTop * height() + 0.5 * title->getBoundRect().height();
+    const QRect box = title->getBoundRect();
+    const double depth = fromTop * height() + 0.5 * box.height();
+    if (legend->getSettings().getOrientation() == 1)
+        return depth;
+    // Beside a standing bar there is room for most titles.
+    double numbers = 0.0;
+    for (const QSize& size : legend->getAxis().getNumberSizes())
+        numbers = std::max(numbers, size.width() / devicePixelRatioF());
+    const double middle = title->getRelativePosition().x() * width();
+    const QRectF bar = legend->getRelative().normalized();
+    const double reach = numbers + titleGap;
+    const bool clear = middle + 0.5 * box.width() < bar.left() * width() - reach
+                       || middle - 0.5 * box.width() > bar.right() * width() + reach;
+    return clear ? 0.0 : depth;
 }
 
 void BasePlot::draw()

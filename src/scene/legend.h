@@ -105,7 +105,7 @@ public:
     /// The gradient whose stops are the bands of the bar. Returns whether it changed.
     bool setGradient(const QGradient& newGradient);
     const QGradient& getGradient() const { return gradient; }
-    /// Logical pixels at the top of the window that a lying legend leaves free, for the title.
+    /// Logical pixels at the top of the window that the legend leaves free, for the title.
     void setReservedTop(double pixels);
     /// Device pixels per logical pixel of the window.
     void setPixelRatio(double ratio);

@@ -62,9 +62,12 @@ Layouter::Layouter(const LegendLayoutInput& layoutInput) : input(layoutInput)
     const Span x{relative.left() * width, relative.right() * width};
     const Span y{relative.top() * height, relative.bottom() * height};
     along = input.horizontal ? x : y;
-    windowAlong = input.horizontal ? width : height;
+    const double free = height - std::clamp(input.reservedTop, 0.0, height / 2.0);
+    windowAlong = input.horizontal ? width : free;
+    if (!input.horizontal)
+        along.high = std::min(along.high, free);
     across = input.horizontal ? y : x;
-    windowAcross = input.horizontal ? height - std::clamp(input.reservedTop, 0.0, height / 2.0) : width;
+    windowAcross = input.horizontal ? free : width;
     if (!input.numbersBelow)
         across = {windowAcross - across.high, windowAcross - across.low};
 }

@@ -25,7 +25,7 @@ struct LegendLayoutInput
     bool horizontal = false; ///< the bar lies
     bool numbersBelow = true; ///< numbers below a lying bar or to the left of a standing one, not beyond it
     QVector<LegendNumber> numbers;
-    double reservedTop = 0.0; ///< pixels at the top of the window that a lying bar leaves to others
+    double reservedTop = 0.0; ///< pixels at the top of the window that are left to others
     double pixelRatio = 1.0;  ///< pixels of the window per logical pixel
 };
 
