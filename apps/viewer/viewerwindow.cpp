@@ -114,14 +114,42 @@ void ViewerWindow::createPlotMenu()
     connect(
         m_plot, &ViewerPlot::projectionTypeChanged, m_perspectiveAction,
         [this](Zel3D::ProjectionType type) { m_perspectiveAction->setChecked(type == Zel3D::Perspective); });
-    m_scalingAction = addSwitch(*menu, tr("&Automatic scaling"), QKeySequence(Qt::CTRL + Qt::Key_A));
-    connect(m_scalingAction, &QAction::triggered, m_plot, &ViewerPlot::slotSetAutoScaling);
-    // The plot changes this one by a key without a signal.
-    connect(menu, &QMenu::aboutToShow, m_scalingAction,
-            [this] { m_scalingAction->setChecked(m_plot->isAutoScaling()); });
-    m_scalingAction->setChecked(m_plot->isAutoScaling());
+    addScalingActions(*menu->addMenu(tr("&Scaling")));
+    addLookActions(*menu->addMenu(tr("Loo&k")));
     menu->addSeparator();
     menu->addAction(tr("&Reset view"), this, &ViewerWindow::resetView, QKeySequence(Qt::CTRL + Qt::Key_R));
+}
+
+void ViewerWindow::addScalingActions(QMenu& menu)
+{
+    const QString texts[] = {tr("&Automatic"), tr("&Equal units on all axes"), tr("By &hand")};
+    auto* group = new QActionGroup(this);
+    for (int scaling = Zel3D::CubeScaling; scaling <= Zel3D::ManualScaling; ++scaling) {
+        QAction* action = addSwitch(menu, texts[scaling], QKeySequence());
+        action->setData(scaling);
+        action->setChecked(scaling == m_plot->getBoxScaling());
+        group->addAction(action);
+    }
+    connect(group, &QActionGroup::triggered, m_plot, [this](const QAction* action) {
+        m_plot->slotSetBoxScaling(Zel3D::BoxScaling(action->data().toInt()));
+    });
+    connect(m_plot, &ViewerPlot::boxScalingChanged, group,
+            [group](Zel3D::BoxScaling scaling) { group->actions().at(scaling)->setChecked(true); });
+}
+
+void ViewerWindow::addLookActions(QMenu& menu)
+{
+    auto* group = new QActionGroup(this);
+    const QList<Zel3D::Look> looks = Zel3D::Look::all();
+    for (const Zel3D::Look& look : looks) {
+        QAction* action = addSwitch(menu, look.name, QKeySequence());
+        group->addAction(action);
+        connect(action, &QAction::triggered, m_plot, [this, look] {
+            m_plot->setLook(look);
+            m_plot->updateGL();
+        });
+    }
+    group->actions().first()->setChecked(true);
 }
 
 void ViewerWindow::resetView()

@@ -34,6 +34,8 @@ private:
     void createFileMenu();
     void createPlotMenu();
     void addStyleActions(QMenu& menu);
+    void addScalingActions(QMenu& menu);
+    void addLookActions(QMenu& menu);
     QAction* addSwitch(QMenu& menu, const QString& text, const QKeySequence& shortcut);
     void chooseFile();
     void savePicture();
@@ -48,6 +50,5 @@ private:
     QAction* m_meshAction = nullptr;
     QAction* m_lightingAction = nullptr;
     QAction* m_perspectiveAction = nullptr;
-    QAction* m_scalingAction = nullptr;
     QString m_fileName;
 };

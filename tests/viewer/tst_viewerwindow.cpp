@@ -142,8 +142,12 @@ void TestViewerWindow::menuAndPlotFollowEachOther()
     QCOMPARE(plot.getProjectionType(), Zel3D::Perspective);
     plot.slotSetLighting(false);
     QVERIFY(!action("Lighting").isChecked());
-    action("Automatic scaling").trigger();
-    QVERIFY(!plot.isAutoScaling());
+    action("Equal units on all axes").trigger();
+    QCOMPARE(plot.getBoxScaling(), Zel3D::EqualUnits);
+    plot.slotSetAutoScaling(true);
+    QVERIFY(action("Automatic").isChecked() && !action("Equal units on all axes").isChecked());
+    action("Dark").trigger();
+    QCOMPARE(plot.getBackgroundColor(), Zel3D::Look::dark().background);
 }
 
 void TestViewerWindow::resetBringsTheStartViewBack()
