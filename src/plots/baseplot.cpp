@@ -108,18 +108,11 @@ void BasePlot::drawWithoutTransform()
     const double ratio = devicePixelRatioF();
     title->setPixelRatio(ratio);
     legend->setPixelRatio(ratio);
-    legend->setReservedTop(titleDepth());
+    // Of what is painted on, which need not be the window.
+    const std::array<int, 4> viewport = currentViewFrame().viewport;
+    legend->setReservedTop(title->getReservedTop(QSize(viewport[2], viewport[3])));
     legend->draw();
     title->draw();
-}
-
-double BasePlot::titleDepth() const
-{
-    const QString& text = title->getSettings().getText();
-    const double fromTop = 1.0 - title->getRelativePosition().y();
-    if (!title->isVisible() || text.trimmed().isEmpty() || fromTop > 0.5)
-        return 0.0;
-    return fromTop * height() + 0.5 * title->getBoundRect().height();
 }
 
 void BasePlot::draw()
@@ -146,6 +139,7 @@ void BasePlot::drawCoordinateSystem()
         *edges = chooseEdges(currentViewFrame(), first(), second(), edges.get());
         coordinateSystem->setVisibleEdges(*edges);
     }
+    coordinateSystem->setOccupied({legend->getRectangle(), title->getRectangle()});
     coordinateSystem->draw();
 }
 

@@ -260,8 +260,6 @@ private:
     void warnWithoutGradient();
     void applyShading() const;
     void drawCoordinateSystem();
-    /// Logical pixels that the title takes from the top of the window.
-    double titleDepth() const;
     void applyScale(BaseAxisType axis);
     void applyIntervals(BaseAxisType axis);
     void applyIntervals();

@@ -1,6 +1,7 @@
 #include "plots/look.h"
 
 #include "plots/baseplot.h"
+#include "plots/baseplotsettings.h"
 #include "scene/coordinatesystem.h"
 #include "scene/legend.h"
 #include "scene/title.h"
@@ -106,8 +107,12 @@ void Look::applyTo(BasePlot& plot) const
     plot.setGradient(gradientName, gradient);
     plot.setGridStyle(gridStyle);
     for (BaseAxisType axis : {XAxis, YAxis, ZAxis}) {
+        // What is set shows at once, whatever the scale in force: a logarithmic axis keeps its own division.
+        const ScaleType scale = plot.getSettings().getAxes().getAxesScaleType(axis);
+        plot.setAxesScaleType(axis, Linear);
         plot.setMajorInterval(axis, Linear, majorInterval);
         plot.setMinorInterval(axis, Linear, minorInterval);
+        plot.setAxesScaleType(axis, scale);
     }
     CoordinateSystem& box = plot.getCoordinateSystem();
     box.getSettings().setGridColor(gridColor);
