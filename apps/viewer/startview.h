@@ -13,9 +13,4 @@ Zel3D::ValueXYZ<double> scale(const Zel3D::Parallelepiped& box);
 /// The rotation in degrees: from the south-west and above.
 Zel3D::ValueXYZ<double> rotation();
 
-/// The zoom at which the scaled and rotated box takes the given part of a window's width or height, whichever
-/// it meets first, under a camera that keeps proportions. \a aspect is the window's width / height.
-double zoom(const Zel3D::Parallelepiped& box, const Zel3D::ValueXYZ<double>& scale,
-            const Zel3D::ValueXYZ<double>& rotation, double aspect, double part);
-
 } // namespace StartView

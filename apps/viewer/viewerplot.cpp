@@ -2,6 +2,7 @@
 
 #include "grid.h"
 #include "plots/baseplotsettings.h"
+#include "plots/viewfit.h"
 #include "plotstyles.h"
 #include "scene/coordinatesystem.h"
 #include "startview.h"
@@ -128,7 +129,7 @@ void ViewerPlot::resetView()
 void ViewerPlot::fit()
 {
     const double aspect = double(std::max(width(), 1)) / std::max(height(), 1);
-    setZoom(StartView::zoom(getHull(), getScale(), getRotation(), aspect, startPart));
+    setZoom(Zel3D::ViewFit::zoom(getHull(), getScale(), getRotation(), aspect, startPart));
     m_fittedZoom = getZoom();
 }
 

@@ -7,7 +7,9 @@
 #include "plots/addition.h"
 #include "plots/autoscaling.h"
 #include "plots/baseplotsettings.h"
+#include "plots/viewfit.h"
 #include "scene/coordinatesystem.h"
+#include "scene/facepolicy.h"
 #include "scene/legend.h"
 #include "scene/title.h"
 #include "view/glmode.h"
@@ -51,13 +53,15 @@ BasePlot::BasePlot(const QString& name, const QString& organizationName, const Q
         settings->getAxes().addAxis(axis, BaseAxesSettings(Linear));
     applyIntervals();
     // What a plot is built with needs no saving.
-    for (int i = 0; i < 12; ++i) {
-        Axis::Settings& axis = coordinateSystem->getAxis(AxisType(i)).getSettings();
-        axis.getMajor().resetNeedSave();
-        axis.getMinor().resetNeedSave();
-    }
     legend->setMinorInterval(2);
     legend->setMajorInterval(10);
+    const auto forgetIntervals = [](Axis& axis) {
+        axis.getSettings().getMajor().resetNeedSave();
+        axis.getSettings().getMinor().resetNeedSave();
+    };
+    for (int i = 0; i < 12; ++i)
+        forgetIntervals(coordinateSystem->getAxis(AxisType(i)));
+    forgetIntervals(legend->getAxis());
     setMouseTracking(true);
     BasePlot::setAutoScaling(true);
     setDataColor(new DataColor(this, QString(), QLinearGradient()));
@@ -111,36 +115,41 @@ void BasePlot::drawWithoutTransform()
     const double ratio = devicePixelRatioF();
     title->setPixelRatio(ratio);
     legend->setPixelRatio(ratio);
-    legend->setReservedTop(titleDepth());
+    // Of what is painted on, which need not be the window.
+    const std::array<int, 4> viewport = currentViewFrame().viewport;
+    legend->setReservedTop(reservedTop(QSize(viewport[2], viewport[3])));
     legend->draw();
     title->draw();
 }
 
-double BasePlot::titleDepth() const
+double BasePlot::reservedTop(const QSize& window)
 {
-    const QString& text = title->getSettings().getText();
-    const double fromTop = 1.0 - title->getRelativePosition().y();
-    if (!title->isVisible() || text.trimmed().isEmpty() || fromTop > 0.5)
-        return 0.0;
-    const QRect box = title->getBoundRect();
-    const double depth = fromTop * height() + 0.5 * box.height();
-    if (legend->getSettings().getOrientation() == 1)
+    const double depth = title->getReservedTop(window);
+    if (depth <= 0.0 || legend->getSettings().getOrientation() == 1)
         return depth;
     // Beside a standing bar there is room for most titles.
     double numbers = 0.0;
     for (const QSize& size : legend->getAxis().getNumberSizes())
-        numbers = std::max(numbers, size.width() / devicePixelRatioF());
-    const double middle = title->getRelativePosition().x() * width();
+        numbers = std::max(numbers, double(size.width()));
+    const double middle = title->getRelativePosition().x() * window.width();
+    const double half = 0.5 * title->getImageSize().width();
+    const double reach = numbers + titleGap * title->getPixelRatio();
     const QRectF bar = legend->getRelative().normalized();
-    const double reach = numbers + titleGap;
-    const bool clear = middle + 0.5 * box.width() < bar.left() * width() - reach
-                       || middle - 0.5 * box.width() > bar.right() * width() + reach;
+    const bool clear = middle + half < bar.left() * window.width() - reach ||
+                       middle - half > bar.right() * window.width() + reach;
     return clear ? 0.0 : depth;
+}
+
+void BasePlot::paintGL()
+{
+    // Before the camera is set: a rebuilt hull may change the scale.
+    if (!isBusy())
+        rebuildWhatChanged();
+    ZelGLWidget::paintGL();
 }
 
 void BasePlot::draw()
 {
-    rebuildWhatChanged();
     warnWithoutGradient();
     const ModelViewScope matrix;
     applyShading();
@@ -162,6 +171,10 @@ void BasePlot::drawCoordinateSystem()
         *edges = chooseEdges(currentViewFrame(), first(), second(), edges.get());
         coordinateSystem->setVisibleEdges(*edges);
     }
+    const int faces = coordinateSystem->getSettings().getGridStyle();
+    coordinateSystem->setDrawnFaces(automaticFaces ? facesBehind(currentViewFrame(), first(), second(), faces)
+                                                   : faces);
+    coordinateSystem->setOccupied({legend->getRectangle(), title->getRectangle()});
     coordinateSystem->draw();
 }
 
@@ -383,6 +396,15 @@ Pair<double> BasePlot::getLegendRange() const
     if (isZero(gradientRange.first, gradientRange.second))
         return {double(hull.minimum.z()), double(hull.maximum.z())};
     return gradientRange;
+}
+
+void BasePlot::fitView(double part)
+{
+    setRotation({30.0, 0.0, 30.0});
+    setShift({0.0, 0.0, 0.0});
+    setViewportShift({0.0, 0.0});
+    const double aspect = isKeepProportions() ? double(std::max(width(), 1)) / std::max(height(), 1) : 1.0;
+    setZoom(ViewFit::zoom(hull, getScale(), getRotation(), aspect, part));
 }
 
 double BasePlot::getViewProjectionZ() const

@@ -64,6 +64,7 @@ public:
     bool isAutoScaling() const { return autoScaling; }
     BoxScaling getBoxScaling() const { return boxScaling; }
     bool isAutomaticEdges() const { return automaticEdges; }
+    bool isAutomaticFaces() const { return automaticFaces; }
     bool isLogarithmicData(BaseAxisType axis) const { return logarithmicData[std::size_t(axis)]; }
     /// What stands around the data, owned by the plot. Changes show at the next paint; the intervals and
     /// scales of the axes are changed through the plot.
@@ -111,12 +112,18 @@ public:
     /// On, the default: for each direction the one edge on the outline of the box where numbers are easiest
     /// to read shows its axis, as the view turns. Off: the set of axes stays as it is and is the host's.
     bool setAutomaticEdges(bool on);
+    /// On: of each face with grid lines and the one opposite to it, the one behind the data shows the lines,
+    /// as the view turns. Off, the default: the faces of the grid style.
+    bool setAutomaticFaces(bool on);
     /// On: the plain values of a direction become decimal exponents while data are loaded, and its scale
     /// logarithmic. Values at or below zero are then missing. Holds from the next load on. No signal of its
     /// own.
     bool setLogarithmicData(BaseAxisType axis, bool on);
     /// @}
 
+    /// A start view: from the front left and above, with the box of the data filling \a part of the window's
+    /// width or height. No repaint; call it after loading.
+    void fitView(double part = 0.7);
     /// Takes ownership; the previous colouring is deleted. Null draws nothing.
     void setDataColor(DataColor* coloring);
     /// The marker of plot style -1; takes ownership, deletes the previous one. Null for none.
@@ -225,15 +232,20 @@ signals:
     void cylinderMultiplier(double factor);
     void dotSizeChanged(double pixels);
     void dotSmoothChanged(bool on);
+    /// For hosts and dialogs; the plot itself never emits it.
     void autoScalingChanged(bool on);
     void minorIntervalChanged(unsigned int count);
     void majorIntervalChanged(unsigned int count);
     void axesScaleChanged(Zel3D::ScaleType scale);
     void boxScalingChanged(Zel3D::BoxScaling scaling);
     void automaticEdgesChanged(bool on);
+    void automaticFacesChanged(bool on);
+    /// For hosts and dialogs; the plot itself never emits it.
+    void legendPositionChanged(unsigned int position);
 
 protected:
     void initializeGL() override;
+    void paintGL() override;
     void keyPressEvent(QKeyEvent* event) override;
 
     BasePlotSettings& settingsRecord() { return *settings; }
@@ -246,6 +258,8 @@ protected:
     bool canDrawData() const;
     /// The directions whose plain values become exponents while loading.
     const std::array<bool, 3>& getLogarithmicData() const { return logarithmicData; }
+    /// Gives the directions whose kind of values changed since the last load their scale.
+    void applyLogarithmicData();
     /// Says once that so many values at or below zero have no exponent.
     void warnOfLostValues(int count);
     /// Frees the list of the data and additions; the context is made current.
@@ -260,8 +274,8 @@ private:
     void warnWithoutGradient();
     void applyShading() const;
     void drawCoordinateSystem();
-    /// Logical pixels that the title takes from the top of the window.
-    double titleDepth() const;
+    /// Logical pixels that the legend leaves to the title at the top of a window of a size in pixels.
+    double reservedTop(const QSize& window);
     void applyScale(BaseAxisType axis);
     void applyIntervals(BaseAxisType axis);
     void applyIntervals();
@@ -287,7 +301,9 @@ private:
     std::unique_ptr<Legend> legend;
     std::unique_ptr<EdgeChoice> edges; ///< of the last frame, while they are chosen automatically
     bool automaticEdges = true;
+    bool automaticFaces = false;
     std::array<bool, 3> logarithmicData{};
+    std::array<bool, 3> loadedLogarithmic{}; ///< as the data in the plot were loaded
     std::unique_ptr<BasePlotSettings> settings;
     Parallelepiped hull;
     Parallelepiped fixedHull;

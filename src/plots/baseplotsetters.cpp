@@ -166,14 +166,33 @@ bool BasePlot::setAutomaticEdges(bool on)
     return true;
 }
 
+bool BasePlot::setAutomaticFaces(bool on)
+{
+    if (automaticFaces == on)
+        return false;
+    automaticFaces = on;
+    emit automaticFacesChanged(on);
+    return true;
+}
+
 bool BasePlot::setLogarithmicData(BaseAxisType axis, bool on)
 {
     bool& held = logarithmicData[std::size_t(axis)];
     if (held == on)
         return false;
     held = on;
-    setAxesScaleType(axis, on ? Logarithmic : Linear);
     return true;
+}
+
+void BasePlot::applyLogarithmicData()
+{
+    for (BaseAxisType axis : {XAxis, YAxis, ZAxis}) {
+        const bool on = logarithmicData[std::size_t(axis)];
+        // Exponents on a linear scale, or plain values on a logarithmic one, would be misread.
+        if (on != loadedLogarithmic[std::size_t(axis)] || on)
+            setAxesScaleType(axis, on ? Logarithmic : Linear);
+        loadedLogarithmic[std::size_t(axis)] = on;
+    }
 }
 
 bool BasePlot::setAxesScaleType(BaseAxisType axis, ScaleType type)
@@ -192,9 +211,9 @@ bool BasePlot::setMinorInterval(BaseAxisType axis, ScaleType type, int count)
 {
     if (count < 0 || !settings->getAxes().setMinorInterval(axis, type, unsigned(count)))
         return false;
-    coordinateSystem->setMinorInterval(axis, count);
-    if (axis == ZAxis)
-        legend->setMinorInterval(count);
+    // What is stored for the other scale waits until that is in force.
+    if (type == settings->getAxes().getAxesScaleType(axis))
+        applyIntervals(axis);
     emit minorIntervalChanged(unsigned(count));
     return true;
 }
@@ -203,9 +222,9 @@ bool BasePlot::setMajorInterval(BaseAxisType axis, ScaleType type, int count)
 {
     if (count < 0 || !settings->getAxes().setMajorInterval(axis, type, unsigned(count)))
         return false;
-    coordinateSystem->setMajorInterval(axis, count);
-    if (axis == ZAxis)
-        legend->setMajorInterval(count);
+    // What is stored for the other scale waits until that is in force.
+    if (type == settings->getAxes().getAxesScaleType(axis))
+        applyIntervals(axis);
     emit majorIntervalChanged(unsigned(count));
     return true;
 }

@@ -105,6 +105,7 @@ void Look::applyTo(BasePlot& plot) const
     plot.setPolygonOffset(1.0);
     plot.setGradient(gradientName, gradient);
     plot.setGridStyle(gridStyle);
+    plot.setAutomaticFaces(true);
     for (BaseAxisType axis : {XAxis, YAxis, ZAxis}) {
         plot.setMajorInterval(axis, Linear, majorInterval);
         plot.setMinorInterval(axis, Linear, minorInterval);

@@ -14,6 +14,12 @@ namespace Zel3D {
 
 namespace {
 enum DataType { GridType = 0, CellType = 1 };
+
+bool isFinite(const QVector3D& p)
+{
+    return std::isfinite(p.x()) && std::isfinite(p.y()) && std::isfinite(p.z());
+}
+
 } // namespace
 
 SHPlot::SHPlot(const QString& name, const QString& organizationName, const QString& applicationName,
@@ -39,6 +45,7 @@ bool SHPlot::load(Container* container, const QString& fault, const Fill& fill)
     gridData->clear();
     cellData->clear();
     setData(container);
+    applyLogarithmicData();
     bool filled = true;
     try {
         fill();
@@ -69,14 +76,13 @@ QVector<QVector3D> SHPlot::toExponents(const QVector<QVector3D>& vertices)
     QVector<QVector3D> converted = vertices;
     int lost = 0;
     for (QVector3D& vertex : converted) {
-        bool positive = true;
+        const bool before = isFinite(vertex);
         for (int k = 0; k < 3; ++k) {
-            if (!directions[std::size_t(k)])
-                continue;
-            positive = positive && vertex[k] > 0.0F;
-            vertex[k] = vertex[k] > 0.0F ? std::log10(vertex[k]) : std::numeric_limits<float>::quiet_NaN();
+            if (directions[std::size_t(k)])
+                vertex[k] =
+                    vertex[k] > 0.0F ? std::log10(vertex[k]) : std::numeric_limits<float>::quiet_NaN();
         }
-        lost += positive ? 0 : 1;
+        lost += before && !isFinite(vertex) ? 1 : 0;
     }
     warnOfLostValues(lost);
     return converted;

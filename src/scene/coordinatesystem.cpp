@@ -277,7 +277,8 @@ void CoordinateSystem::drawMinorGridLines()
 template <class PairRoutine>
 void CoordinateSystem::drawGridLines(double width, int style, PairRoutine drawPair)
 {
-    if (settings.getGridStyle() == 0)
+    const int shown = drawnFaces < 0 ? settings.getGridStyle() : drawnFaces;
+    if (shown == 0)
         return;
     // The edges of a face need not show an axis, and only a drawn axis brings its ticks up to date.
     for (Axis& axis : axes)
@@ -290,7 +291,7 @@ void CoordinateSystem::drawGridLines(double width, int style, PairRoutine drawPa
     glLineStipple(1, GLushort(style & 0xFFFF));
     glBegin(GL_LINES);
     for (const GridFace& face : faces) {
-        if (!(settings.getGridStyle() & face.bit))
+        if (!(shown & face.bit))
             continue;
         for (const auto& pair : face.pairs)
             drawPair(axes[int(pair[0])], axes[int(pair[1])]);

@@ -104,6 +104,9 @@ public:
     /// The scale of the view, by which the ticks get the same length in all directions.
     void setViewScale(const ValueXYZ<double>& scale);
 
+    /// The faces that show grid lines from now on, in place of the grid style of the settings: a set of Grid
+    /// bits; -1 goes back to the settings.
+    void setDrawnFaces(int faces) { drawnFaces = faces; }
     /// Rectangles of the window, in pixels with y upwards, that others draw over: numbers and titles that
     /// would meet them are left out or step aside.
     void setOccupied(const QVector<QRectF>& rectangles) { occupiedByOthers = rectangles; }
@@ -130,6 +133,7 @@ private:
     QVector3D secondCorner;
     CoordinateSystemSettings settings;
     bool highlight = false;
+    int drawnFaces = -1;
     QVector<QRectF> occupiedByOthers;
     ValueXYZ<double> viewScale{1.0, 1.0, 1.0};
 };

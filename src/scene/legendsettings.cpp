@@ -16,7 +16,7 @@ void Legend::Settings::loadSettings(const QString& group, const QString& organiz
 void Legend::Settings::saveSettings(const QString& group, const QString& organization,
                                     const QString& application) const
 {
-    if (!needSave && !axis.isSaveNeeded())
+    if (!needSave)
         return;
     QSettings values(organization, application);
     values.setValue(QString("%0/position").arg(group), int(position));

@@ -144,7 +144,8 @@ void TestBasePlot::changesEmitOnceAndRebuildAtTheNextPaint_data()
     row("equal units", "boxScalingChanged(1)", 0, [](Plot& p) { return p.setBoxScaling(EqualUnits); });
     row("grid", "gridStyleChanged(40)", 0, [](Plot& p) { return p.setGridStyle(GridBack | GridBottom); });
     row("edges", "automaticEdgesChanged(false)", 0, [](Plot& p) { return p.setAutomaticEdges(false); });
-    row("plain values", "axesScaleChanged(1)", 0, [](Plot& p) { return p.setLogarithmicData(XAxis, true); });
+    row("faces", "automaticFacesChanged(true)", 0, [](Plot& p) { return p.setAutomaticFaces(true); });
+    row("plain values", "", 0, [](Plot& p) { return p.setLogarithmicData(XAxis, true); });
     row(
         "gradient", "", 2, [](Plot& p) { return p.setGradient("x", plain(Qt::red)); }, true);
     row(

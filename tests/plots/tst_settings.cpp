@@ -410,10 +410,11 @@ void TestSettings::freshPlotWritesOnlyTheSwitch()
                             "dataColor/1/color"})
         QVERIFY2(rest.removeOne(QString("plot/") + key), key);
     for (int i = rest.size() - 1; i >= 0; --i) {
-        // Lights are always written; the legend, and labels and arrows of the axes, are marked from the start.
+        // Lights are always written; the legend, and labels and arrows of the axes, are marked from the
+        // start.
         const bool furniture = rest.at(i).contains("/label/") || rest.at(i).contains("/arrow/");
-        if (rest.at(i).startsWith("plot/light") || rest.at(i).startsWith("plot/legend/")
-            || (rest.at(i).startsWith("plot/axis") && furniture))
+        if (rest.at(i).startsWith("plot/light") || rest.at(i).startsWith("plot/legend/") ||
+            (rest.at(i).startsWith("plot/axis") && furniture))
             rest.removeAt(i);
     }
     QCOMPARE(rest, QStringList{"plot/autoScaling"});

@@ -9,6 +9,7 @@
 #include <limits>
 
 #include <gdal.h>
+#include <ogr_srs_api.h>
 
 namespace {
 
@@ -95,6 +96,8 @@ private slots:
     void valuesOfTheBand_data();
     void valuesOfTheBand();
     void bandNameAndUnit();
+    void axesAreNamedByTheGeoreferencing_data();
+    void axesAreNamedByTheGeoreferencing();
     void decimalsAfterWholeNumbersStay();
     void errorsNameFileAndReason_data();
     void errorsNameFileAndReason();
@@ -228,6 +231,48 @@ void TestGridFile::bandNameAndUnit()
     QCOMPARE(grid.zMin, 100.0);
     QCOMPARE(grid.name, QString("snow"));
     QCOMPARE(grid.unit, QString("m"));
+}
+
+void TestGridFile::axesAreNamedByTheGeoreferencing_data()
+{
+    QTest::addColumn<bool>("placed");
+    QTest::addColumn<int>("system"); // EPSG code; 0 for none
+    QTest::addColumn<QString>("xName");
+    QTest::addColumn<QString>("yName");
+    QTest::newRow("geographic") << true << 4326 << QString("Longitude (\u00b0)")
+                                << QString("Latitude (\u00b0)");
+    QTest::newRow("projected, metres") << true << 32616 << "Easting (m)"
+                                       << "Northing (m)";
+    QTest::newRow("projected, feet") << true << 2274 << "Easting (US survey foot)"
+                                     << "Northing (US survey foot)";
+    QTest::newRow("no reference system") << true << 0 << "x"
+                                         << "y";
+    QTest::newRow("no georeferencing") << false << 0 << "Column"
+                                       << "Row, from the bottom";
+}
+
+void TestGridFile::axesAreNamedByTheGeoreferencing()
+{
+    QFETCH(bool, placed);
+    QFETCH(int, system);
+    const QString file = path("named.tif");
+    Raster raster;
+    if (placed)
+        raster.transform = {100, 2, 0, 50, 0, -4};
+    writeRaster(file, raster);
+    if (system != 0) {
+        const OGRSpatialReferenceH reference = OSRNewSpatialReference(nullptr);
+        QCOMPARE(OSRImportFromEPSG(reference, system), OGRERR_NONE);
+        const GDALDatasetH dataset = GDALOpen(file.toUtf8().constData(), GA_Update);
+        QCOMPARE(GDALSetSpatialRef(dataset, reference), CE_None);
+        GDALClose(dataset);
+        OSRDestroySpatialReference(reference);
+    }
+    Grid grid;
+    GridFile reader(file);
+    QVERIFY2(reader.read(grid), qPrintable(reader.error()));
+    QTEST(grid.xName, "xName");
+    QTEST(grid.yName, "yName");
 }
 
 void TestGridFile::decimalsAfterWholeNumbersStay()

@@ -1,4 +1,5 @@
 #include "harness/harness.h"
+#include "plots/viewfit.h"
 #include "startview.h"
 #include "terraingradient.h"
 #include "thinning.h"
@@ -84,10 +85,10 @@ void TestStartView::zoomFillsThePart()
     QFETCH(double, aspect);
     QFETCH(double, reach);
     const Parallelepiped box{QVector3D(9, 9, 9), QVector3D(11, 11, 11)};
-    const double zoom = StartView::zoom(box, scale, rotation, aspect, 0.5);
+    const double zoom = Zel3D::ViewFit::zoom(box, scale, rotation, aspect, 0.5);
     // The camera sees as far as the box's own corner, the root of 3, from the middle to the nearer edges.
     QVERIFY2(std::abs(zoom * reach / std::sqrt(3.0) - 0.5) < 1e-5, qPrintable(QString::number(zoom)));
-    QCOMPARE(StartView::zoom(Parallelepiped(), scale, rotation, aspect, 0.5), 1.0);
+    QCOMPARE(Zel3D::ViewFit::zoom(Parallelepiped(), scale, rotation, aspect, 0.5), 1.0);
 }
 
 void TestStartView::thinningLeavesAFewNodes_data()

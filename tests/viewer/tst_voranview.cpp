@@ -80,6 +80,7 @@ private slots:
     void pictureHasTheSizeAndTheRelief_data();
     void pictureHasTheSizeAndTheRelief();
     void stylesDiffer();
+    void looksDiffer();
     void failureLeavesAnExistingPicture();
 
 private:
@@ -118,6 +119,8 @@ void TestVoranview::refusalsAreOneSentence_data()
         << QStringList{"--style", "fancy", example} << Screen::None
         << "\"fancy\"; the styles are none, points, wireframe, hidden, filled, mesh, "
            "histogram.";
+    QTest::newRow("unknown look") << QStringList{"--look", "fancy", example} << Screen::None
+                                  << "There is no look \"fancy\"; the looks are light, dark, print.";
     QTest::newRow("size too small") << QStringList{"--size", "49x50", example} << Screen::None << "\"49x50\"";
     QTest::newRow("size too large") << QStringList{"--size", "50x16385", example} << Screen::None
                                     << "\"50x16385\"";
@@ -211,6 +214,22 @@ void TestVoranview::stylesDiffer()
     };
     QVERIFY2(2 * dark("mesh") > 3 * dark("filled"),
              qPrintable(QString("%1 %2").arg(dark("mesh")).arg(dark("filled"))));
+}
+
+void TestVoranview::looksDiffer()
+{
+    const QMap<QString, QColor> backgrounds{
+        {"light", Qt::white}, {"Dark", QColor(36, 39, 44)}, {"PRINT", Qt::white}};
+    QMap<QString, QImage> images;
+    for (const QString& look : backgrounds.keys()) {
+        const QString path = m_folder.filePath("look.png");
+        const Outcome outcome = runViewer({example, "--look", look, "--png", path, "--size", "400x300"});
+        QVERIFY2(outcome.status == 0, qPrintable(outcome.errors));
+        images.insert(look, QImage(path));
+        QCOMPARE(QColor(images.value(look).pixel(0, 0)), backgrounds.value(look));
+        QVERIFY(QFile::remove(path));
+    }
+    QVERIFY(images.value("light") != images.value("PRINT"));
 }
 
 void TestVoranview::failureLeavesAnExistingPicture()
