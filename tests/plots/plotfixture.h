@@ -1,12 +1,15 @@
 #pragma once
 
+#include "core/log10scale.h"
 #include "plots/baseplotsettings.h"
 #include "plots/shplot.h"
+#include "scene/coordinatesystem.h"
 #include "scene/legend.h"
 
 #include <QColor>
 #include <QImage>
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 #include <functional>
@@ -93,6 +96,54 @@ inline int pixels(const QImage& image, const QColor& color)
             count += image.pixelColor(x, y).rgb() == color.rgb() ? 1 : 0;
     }
     return count;
+}
+
+/// The edges that run in a direction.
+inline QVector<Zel3D::AxisType> edgesOf(Zel3D::BaseAxisType direction)
+{
+    QVector<Zel3D::AxisType> edges;
+    for (int i = 0; i < 12; ++i) {
+        if (Zel3D::baseAxisType(Zel3D::AxisType(i)) == direction)
+            edges.append(Zel3D::AxisType(i));
+    }
+    return edges;
+}
+
+/// "minor/major" of the four axes of a direction, each distinct one once.
+inline QString intervals(Plot& plot, Zel3D::BaseAxisType direction)
+{
+    QStringList found;
+    for (Zel3D::AxisType edge : edgesOf(direction)) {
+        const Zel3D::Axis::Settings& axis = plot.getCoordinateSystem().getAxis(edge).getSettings();
+        found.append(QString("%1/%2").arg(axis.getMinor().getInterval()).arg(axis.getMajor().getInterval()));
+    }
+    found.removeDuplicates();
+    return found.join(' ');
+}
+
+inline QString legendIntervals(Plot& plot)
+{
+    const Zel3D::Axis::Settings& axis = plot.getLegend().getAxis().getSettings();
+    return QString("%1/%2").arg(axis.getMinor().getInterval()).arg(axis.getMajor().getInterval());
+}
+
+inline bool isLogarithmic(const Zel3D::Axis& axis)
+{
+    return dynamic_cast<const Zel3D::Log10Scale*>(axis.getScale()) != nullptr;
+}
+
+inline bool isLogarithmic(Plot& plot, Zel3D::BaseAxisType direction)
+{
+    int count = 0;
+    for (Zel3D::AxisType edge : edgesOf(direction))
+        count += isLogarithmic(plot.getCoordinateSystem().getAxis(edge)) ? 1 : 0;
+    return count == 4;
+}
+
+/// The values as the heights of two equal columns, at x 0 and 1 and at y 0, 1 and so on.
+inline bool loadHeights(Plot& plot, const QVector<double>& values)
+{
+    return Heights(2, values.size(), [&values](int, int row) { return values[row]; }).into(plot);
 }
 
 } // namespace fixture
