@@ -77,6 +77,7 @@ private slots:
     void logarithmicPlanes();
     void valuesWithoutAnExponentAreMissing_data();
     void valuesWithoutAnExponentAreMissing();
+    void switchHoldsFromTheNextLoadOn();
     void looksLeaveLogarithmicDivisions();
 };
 
@@ -172,10 +173,30 @@ void TestLogarithmicData::valuesWithoutAnExponentAreMissing()
     QVERIFY(corners > 0);
 }
 
+void TestLogarithmicData::switchHoldsFromTheNextLoadOn()
+{
+    Plot plot;
+    Heights heights(3, 3, [](int i, int j) { return double(1 + i + j); });
+    QVERIFY(heights.into(plot));
+    plot.setLogarithmicData(ZAxis, true);
+    // The data are plain still, and so is their scale.
+    QVERIFY(!isLogarithmic(plot, ZAxis) && !isLogarithmic(plot.getLegend().getAxis()));
+    QVERIFY(heights.into(plot));
+    QVERIFY(isLogarithmic(plot, ZAxis) && isLogarithmic(plot.getLegend().getAxis()));
+    plot.setLogarithmicData(ZAxis, false);
+    QVERIFY(heights.into(plot));
+    QVERIFY(!isLogarithmic(plot, ZAxis));
+    QCOMPARE(plot.getHull().maximum.z(), 5.0F);
+    // A host that has exponents sets the scale, and a load leaves it.
+    plot.setAxesScaleType(ZAxis, Logarithmic);
+    QVERIFY(heights.into(plot));
+    QVERIFY(isLogarithmic(plot, ZAxis));
+}
+
 void TestLogarithmicData::looksLeaveLogarithmicDivisions()
 {
     Plot plot;
-    plot.setLogarithmicData(ZAxis, true);
+    plot.setAxesScaleType(ZAxis, Logarithmic);
     plot.setMinorInterval(ZAxis, Logarithmic, 9);
     Look::print().applyTo(plot);
     QVERIFY(isLogarithmic(plot, ZAxis) && isLogarithmic(plot.getLegend().getAxis()));

@@ -1,7 +1,9 @@
 #include "scene/canvas.h"
 #include "scene/edgepolicy.h"
+#include "scene/facepolicy.h"
 #include "scene/numberthinning.h"
 
+#include <QMatrix4x4>
 #include <QtTest>
 
 #include <limits>
@@ -54,6 +56,8 @@ private slots:
     void nothingFlickersAtTurningPoints();
     void oddBoxes_data();
     void oddBoxes();
+    void facesWithGridLinesAreBehind_data();
+    void facesWithGridLinesAreBehind();
     void thinning_data();
     void thinning();
 
@@ -265,6 +269,42 @@ void TestEdgePolicy::oddBoxes()
     const WindowBox box = projectBox(frame, a, b);
     for (int i = 0; i < 12; ++i)
         QVERIFY(std::abs(double(edgeOutward(box, AxisType(i)).length()) - 1.0) < 1e-5);
+}
+
+void TestEdgePolicy::facesWithGridLinesAreBehind_data()
+{
+    QTest::addColumn<double>("tilt");
+    QTest::addColumn<double>("turn");
+    QTest::addColumn<int>("wanted");
+    QTest::addColumn<int>("behind");
+    const int usual = GridBack | GridBottom;
+    QTest::newRow("front, from above") << 20.0 << 0.0 << usual << (GridBack | GridBottom);
+    QTest::newRow("from behind") << 20.0 << 180.0 << usual << (GridFront | GridBottom);
+    QTest::newRow("from below") << -20.0 << 0.0 << usual << (GridBack | GridTop);
+    QTest::newRow("left, from the side") << 20.0 << 90.0 << int(GridLeft) << int(GridRight);
+    QTest::newRow("right, from the side") << 20.0 << 90.0 << int(GridRight) << int(GridRight);
+    QTest::newRow("edge-on keeps its own") << 0.0 << 0.0 << usual << usual;
+    QTest::newRow("both stay") << 20.0 << 180.0 << (GridFront | GridBack) << (GridFront | GridBack);
+    QTest::newRow("none") << 20.0 << 180.0 << 0 << 0;
+}
+
+void TestEdgePolicy::facesWithGridLinesAreBehind()
+{
+    QFETCH(double, tilt);
+    QFETCH(double, turn);
+    QFETCH(int, wanted);
+    QFETCH(int, behind);
+    QMatrix4x4 camera;
+    camera.ortho(-5.0F, 5.0F, -5.0F, 5.0F, -10.0F, 10.0F);
+    camera.rotate(float(tilt - 90.0), 1.0F, 0.0F, 0.0F);
+    camera.rotate(float(turn), 0.0F, 0.0F, 1.0F);
+    ViewFrame frame;
+    const QMatrix4x4 identity;
+    std::copy_n(identity.constData(), 16, frame.modelview.begin());
+    std::copy_n(camera.constData(), 16, frame.projection.begin());
+    frame.viewport = {0, 0, 400, 300};
+    QCOMPARE(facesBehind(frame, first, second, wanted), behind);
+    QCOMPARE(facesBehind(frame, second, first, wanted), behind);
 }
 
 void TestEdgePolicy::thinning_data()
