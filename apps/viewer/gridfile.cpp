@@ -9,6 +9,7 @@
 
 #include <cfloat>
 #include <cmath>
+#include <limits>
 #include <memory>
 #include <new>
 
@@ -200,6 +201,12 @@ bool GridFile::fill(void* band, const GridPlacement& placement, Grid& grid)
     grid.measure();
     if (grid.validNodes == 0)
         return fail(tr("\"%1\" holds no heights: every node is missing.").arg(m_name));
+    if (grid.zMax - grid.zMin > double(std::numeric_limits<float>::max()))
+        return fail(
+            tr("\"%1\" cannot be drawn: its heights span from %2 to %3, more than single precision holds.")
+                .arg(m_name)
+                .arg(grid.zMin)
+                .arg(grid.zMax));
     return true;
 }
 

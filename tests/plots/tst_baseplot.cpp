@@ -102,6 +102,8 @@ private slots:
     void framesCallTheListsOnly();
     void framesLeaveTheStateAsItWas_data();
     void framesLeaveTheStateAsItWas();
+    void startViewShowsTheWholeBox_data();
+    void startViewShowsTheWholeBox();
     void newContextShowsTheSamePicture();
     void deletingOneOfTwoPlots();
     void missingGradientIsToldOnce();
@@ -490,6 +492,46 @@ void TestBasePlot::framesLeaveTheStateAsItWas()
         plot.updateGL();
         QCOMPARE(stateNow(), before);
     }
+}
+
+void TestBasePlot::startViewShowsTheWholeBox_data()
+{
+    QTest::addColumn<double>("height");
+    QTest::addColumn<bool>("keep");
+    QTest::newRow("like the sides") << 3.0 << false;
+    QTest::newRow("a thousand times the sides") << 3000.0 << false;
+    QTest::newRow("proportions kept") << 3000.0 << true;
+}
+
+void TestBasePlot::startViewShowsTheWholeBox()
+{
+    QFETCH(double, height);
+    QFETCH(bool, keep);
+    Plot plot;
+    plot.setPlotStyle(4);
+    plot.setGradient("plain", plain(Qt::blue));
+    plot.setKeepProportions(keep);
+    QVERIFY(Heights(4, 4, [&](int i, int j) { return height * ((i + j) % 2); }).into(plot));
+    QVERIFY(harness::show(plot, 200, 100));
+    plot.fitView(0.8);
+    const QImage image = harness::grab(plot);
+    int left = image.width();
+    int right = 0;
+    int top = image.height();
+    int bottom = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixelColor(x, y) == QColor(Qt::white))
+                continue;
+            left = qMin(left, x);
+            right = qMax(right, x);
+            top = qMin(top, y);
+            bottom = qMax(bottom, y);
+        }
+    }
+    // Inside the window, and most of its smaller or of its larger side.
+    QVERIFY2(left > 0 && right < 199 && top > 0 && bottom < 99, qPrintable(QString::number(left)));
+    QVERIFY(right - left > 100 || bottom - top > 60);
 }
 
 void TestBasePlot::newContextShowsTheSamePicture()
