@@ -254,6 +254,8 @@ public:
     const QVector3D& getEnd() const { return end; }
     const AxisRange& getRange() const { return range; }
     const Scale* getScale() const { return scale.get(); }
+    /// Whether the last arrange() found room for the title.
+    bool isLabelShown() const { return labelShown; }
     bool isHighlighted() const { return highlighted; }
     /// Whether the ticks wait for a calculation, be it because the limits do not allow one.
     bool isRecalculationNeeded() const;

@@ -116,6 +116,7 @@ private slots:
     void ticksFollowTheViewScale();
     void textsAreReadableAtEveryCamera_data();
     void textsAreReadableAtEveryCamera();
+    void textsGiveWayToOthers();
     void warmFramesRenderNothing();
     void persistence();
 
@@ -516,6 +517,30 @@ void TestCoordinateSystem::textsAreReadableAtEveryCamera()
         }
     }
     QVERIFY2(shown > 8 * cameras, qPrintable(QString("%1 numbers at %2 cameras").arg(shown).arg(cameras)));
+}
+
+void TestCoordinateSystem::textsGiveWayToOthers()
+{
+    CoordinateSystem box(QVector3D(), QVector3D(1, 1, 1));
+    prepare(box);
+    paintBox(box, {25.0, -35.0}, true);
+    canvas.updateGL();
+    const int all = texts(box).size();
+    const QRectF left(0, 0, 90, 300);
+    const auto meets = [&](const QVector<QRectF>& found) {
+        return std::count_if(found.begin(), found.end(),
+                             [&](const QRectF& text) { return text.intersects(left); });
+    };
+    QVERIFY(meets(texts(box)) > 3);
+    box.setOccupied({left});
+    canvas.updateGL();
+    QCOMPARE(int(meets(texts(box))), 0);
+    QVERIFY(texts(box).size() > 3 && texts(box).size() < all);
+    const Axis& upright = box.getAxis(ZFrontLeft);
+    QVERIFY(!upright.isLabelShown() || !upright.getLabel().getRectangle().intersects(left));
+    box.setOccupied({});
+    canvas.updateGL();
+    QCOMPARE(texts(box).size(), all);
 }
 
 void TestCoordinateSystem::warmFramesRenderNothing()
