@@ -74,8 +74,6 @@ Legend::Legend()
     needSave = true;
     axis.setName("axis");
     axis.setAutomaticTicFormat(true);
-    axis.getSettings().getTics().setVisible(true);
-    axis.getSettings().getNumbers().setVisible(true);
     axis.getSettings().getNumbers().setColor(Qt::black);
     axis.getSettings().getNumbers().setFont(QFont("Courier", 8));
     axis.getSettings().resetNeedSave();

@@ -522,6 +522,7 @@ void TestCoordinateSystem::textsAreReadableAtEveryCamera()
 void TestCoordinateSystem::textsGiveWayToOthers()
 {
     CoordinateSystem box(QVector3D(), QVector3D(1, 1, 1));
+    showAxes(box);
     prepare(box);
     paintBox(box, {25.0, -35.0}, true);
     canvas.updateGL();

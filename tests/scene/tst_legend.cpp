@@ -63,6 +63,18 @@ bool near(double a, double b, double tolerance = 0.1)
 
 } // namespace
 
+namespace {
+
+/// The scale is invisible until switched on.
+void showNumbers(Legend& legend)
+{
+    legend.getAxis().getSettings().getTics().setVisible(true);
+    legend.getAxis().getSettings().getNumbers().setVisible(true);
+    legend.getAxis().getSettings().resetNeedSave();
+}
+
+} // namespace
+
 class TestLegend : public QObject
 {
     Q_OBJECT
@@ -130,6 +142,7 @@ void TestLegend::barAndBands()
     QFETCH(int, position);
     const bool lying = position < 2;
     Legend legend;
+    showNumbers(legend);
     prepare(legend, position);
     GLRecorder recorder;
     draw(legend);
@@ -195,6 +208,7 @@ void TestLegend::pointer()
     QFETCH(QColor, color);
     const bool lying = position < 2;
     Legend legend;
+    showNumbers(legend);
     prepare(legend, position);
     legend.getAxis().getSettings().getTics().setVisible(false);
     glLineWidth(1.5F);
@@ -268,6 +282,7 @@ void TestLegend::numbersStandBesideTheirColours()
     QFETCH(int, fontSize);
     QVERIFY(harness::show(canvas, window.width(), window.height()));
     Legend legend;
+    showNumbers(legend);
     prepare(legend, position, fontSize);
     legend.setLimits(0.0, maximum);
     legend.showValue(maximum);
@@ -311,6 +326,7 @@ void TestLegend::nothingIsDrawn()
 {
     QFETCH(int, cause);
     Legend legend;
+    showNumbers(legend);
     prepare(legend);
     legend.showValue(1.0);
     if (cause == 0)
@@ -350,6 +366,7 @@ void TestLegend::positionSetsOrientationAndAlignment()
     QFETCH(int, alignment);
     QFETCH(QRectF, relative);
     Legend legend;
+    showNumbers(legend);
     prepare(legend);
     draw(legend);
     QVERIFY(!legend.isDirty());
@@ -369,6 +386,7 @@ void TestLegend::positionSetsOrientationAndAlignment()
 void TestLegend::settersMarkDirtyOnlyOnChange()
 {
     Legend legend;
+    showNumbers(legend);
     prepare(legend);
     const QVector<std::function<bool()>> changes{
         [&] { return legend.setPosition(Legend::Top); },
@@ -392,6 +410,7 @@ void TestLegend::settersMarkDirtyOnlyOnChange()
 void TestLegend::followsTheWindowAndIsCheapWhenWarm()
 {
     Legend legend;
+    showNumbers(legend);
     prepare(legend);
     int calculations = 0;
     legend.setScale(new CountingScale(calculations));
@@ -431,6 +450,7 @@ void TestLegend::followsTheWindowAndIsCheapWhenWarm()
 void TestLegend::flatShadingDoesNotFlattenTheBar()
 {
     Legend legend;
+    showNumbers(legend);
     prepare(legend);
     glShadeModel(GL_FLAT);
     draw(legend);
@@ -484,6 +504,7 @@ void TestLegend::oddLimits()
     QFETCH(double, maximum);
     QFETCH(double, value);
     Legend legend;
+    showNumbers(legend);
     prepare(legend);
     draw(legend);
     legend.setLimits(minimum, maximum);
@@ -505,6 +526,7 @@ void TestLegend::oddLimits()
 void TestLegend::persistence()
 {
     Legend legend;
+    showNumbers(legend);
     legend.saveSettings("plot", organization, application);
     // A new legend writes its visibility, and the label and arrow of its axis.
     QStringList keys = QSettings(organization, application).allKeys();
