@@ -101,6 +101,15 @@ protected:
         glEnable(GL_DEPTH_TEST);
         glEnable(GL_COLOR_MATERIAL);
         glLightModeli(GL_LIGHT_MODEL_TWO_SIDE, 1);
+        // The library's light: the floor shades as much as it does.
+        const std::array<float, 4> gray{0.63F, 0.63F, 0.64F, 1.0F};
+        const std::array<float, 4> white{1.0F, 1.0F, 1.0F, 1.0F};
+        const std::array<float, 4> direction{0.87F, 0.87F, 1.22F, 0.0F};
+        glLightfv(GL_LIGHT1, GL_POSITION, direction.data());
+        glLightfv(GL_LIGHT1, GL_AMBIENT, gray.data());
+        glLightfv(GL_LIGHT1, GL_DIFFUSE, white.data());
+        glLightfv(GL_LIGHT1, GL_SPECULAR, white.data());
+        glLightf(GL_LIGHT1, GL_QUADRATIC_ATTENUATION, 0.1F);
         glEnable(GL_LIGHT1);
     }
     void resizeGL(int width, int height) override { glViewport(0, 0, width, height); }
