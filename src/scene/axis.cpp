@@ -244,12 +244,11 @@ void Axis::arrange(const ViewFrame& frame, const QVector2D& outward, bool always
 {
     updateTics();
     outwardDirection = outward.normalized();
-    double gap = numberGap;
+    nameGap = numberGap;
     if (areNumbersShown() && !isRecalculationNeeded()) {
         const bool outside = always || settings.getNumbers().getAlignment() == Center;
-        gap = arrangeNumbers(frame, outside, occupied);
+        nameGap = arrangeNumbers(frame, outside, occupied);
     }
-    arrangeLabel(frame, gap, occupied);
 }
 
 /// Returns how far the numbers reach along the outward direction, in logical pixels.
@@ -275,7 +274,7 @@ double Axis::arrangeNumbers(const ViewFrame& frame, bool outside, QVector<QRectF
     return numberGap + reach / pixelRatio;
 }
 
-void Axis::arrangeLabel(const ViewFrame& frame, double gap, QVector<QRectF>& occupied)
+void Axis::arrangeName(const ViewFrame& frame, QVector<QRectF>& occupied)
 {
     labelShown = true;
     if (!label.isVisible() || label.getSettings().getText().isEmpty() || label.getSettings().isBlank())
@@ -294,15 +293,14 @@ void Axis::arrangeLabel(const ViewFrame& frame, double gap, QVector<QRectF>& occ
     labelShown = from.valid && to.valid && length >= step;
     if (!labelShown)
         return;
-    // Beside the numbers, further out where other texts are in the way, or else beyond an end of the axis.
-    const double beyond = length / 2.0 + step;
-    labelShown = tryLabelPlace(frame, outwardDirection, gap + titleGap, occupied) ||
-                 tryLabelPlace(frame, outwardDirection, gap + titleGap + step, occupied) ||
-                 tryLabelPlace(frame, along, beyond, occupied) ||
-                 tryLabelPlace(frame, -along, beyond, occupied);
+    // Beside the numbers, or further out where other texts are in the way. A standing axis has room above its
+    // upper end; at the other ends the axes meet, and the name would seem to be that of another one.
+    labelShown = tryLabelPlace(frame, outwardDirection, nameGap + titleGap, occupied) ||
+                 tryLabelPlace(frame, outwardDirection, nameGap + titleGap + step, occupied);
+    if (!labelShown && std::abs(along.y()) > std::abs(along.x()))
+        labelShown = tryLabelPlace(frame, along.y() > 0.0F ? along : -along, length / 2.0 + step, occupied);
 }
 
-/// Whether the title has room in the window on one side of its point.
 bool Axis::tryLabelPlace(const ViewFrame& frame, const QVector2D& direction, double gap,
                          QVector<QRectF>& occupied)
 {

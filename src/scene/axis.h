@@ -226,11 +226,14 @@ public:
     /// Device pixels per logical pixel of the window, for the texts.
     void setPixelRatio(double ratio);
 
-    /// Finds the places of the numbers and of the title in the window before draw(): those with alignment
-    /// Center stand beyond the ticks in a direction of the window (all numbers with \a always), numbers that
-    /// would overlap each other or one of \a occupied are left out evenly, and what stays is added to \a
-    /// occupied. The places hold until the next call. Needs no context.
+    /// Finds the places of the numbers in the window before draw(): those with alignment Center stand beyond
+    /// the ticks in a direction of the window (all numbers with \a always), numbers that would overlap each
+    /// other or one of \a occupied are left out evenly, and what stays is added to \a occupied. The places
+    /// hold until the next call. Needs no context.
     void arrange(const ViewFrame& frame, const QVector2D& outward, bool always, QVector<QRectF>& occupied);
+    /// The same for the name, beyond the numbers; after arrange(), of all axes that share a picture. A name
+    /// without a place at its own axis is left out.
+    void arrangeName(const ViewFrame& frame, QVector<QRectF>& occupied);
 
     bool beforeCalculation(QVector3D& span);
     void recalculateTics();
@@ -303,7 +306,6 @@ private:
     QVector3D labelPosition() const;
     void setUpNumber(Label& number, const AxisTic& tic, const QVector3D& position) const;
     double arrangeNumbers(const ViewFrame& frame, bool outside, QVector<QRectF>& occupied);
-    void arrangeLabel(const ViewFrame& frame, double gap, QVector<QRectF>& occupied);
     bool tryLabelPlace(const ViewFrame& frame, const QVector2D& direction, double gap,
                        QVector<QRectF>& occupied);
     bool areNumbersShown() const;
@@ -327,6 +329,7 @@ private:
     double pixelRatio = 1.0;
     QVector2D outwardDirection;
     bool labelShown = true;
+    double nameGap = 0.0; ///< logical pixels that the numbers take
 };
 
 } // namespace Zel3D

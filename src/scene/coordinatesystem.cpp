@@ -101,6 +101,9 @@ void CoordinateSystem::arrange()
     QVector<QRectF> occupied = occupiedByOthers;
     for (const QPair<double, int>& entry : qAsConst(order))
         axes[entry.second].arrange(frame, edgeOutward(box, AxisType(entry.second)), false, occupied);
+    // Names give way to numbers.
+    for (const QPair<double, int>& entry : qAsConst(order))
+        axes[entry.second].arrangeName(frame, occupied);
 }
 
 void CoordinateSystem::loadSettings(const QString& prefix, const QString& organization,

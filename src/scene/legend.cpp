@@ -303,7 +303,9 @@ void Legend::arrangeNumbers()
     if (!layout.numbersFit)
         occupied.append(QRectF(viewport[0], viewport[1], viewport[2], viewport[3]));
     const QVector2D outward(float(layout.outward.x()), float(layout.outward.y()));
-    axis.arrange({modelview, projection, viewport}, outward, true, occupied);
+    const ViewFrame frame{modelview, projection, viewport};
+    axis.arrange(frame, outward, true, occupied);
+    axis.arrangeName(frame, occupied);
     // The pointer's strip counts even without a pointer: it must not push texts about when it comes and goes.
     const QPointF pointerEnd = legendPointer(layout, 0.0)[1];
     covered = layout.bar.united(QRectF(pointerEnd, QSizeF(1.0, 1.0))).translated(viewport[0], viewport[1]);

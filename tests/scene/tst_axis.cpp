@@ -262,6 +262,7 @@ void TestAxis::unusableLimits()
     QVERIFY(axis.getMajors().isEmpty());
     QVector<QRectF> occupied;
     axis.arrange(ViewFrame(), QVector2D(), false, occupied);
+    axis.arrangeName(ViewFrame(), occupied);
     axis.setLimits(0.0, 1.0);
     axis.setPosition(QVector3D(float(qQNaN()), 0, 0), QVector3D(1, 0, 0));
     GLRecorder recorder;
@@ -358,6 +359,7 @@ void TestAxis::countsAreCapped()
     QVector<QRectF> occupied;
     canvas.paint = [&] {
         axis.arrange(currentViewFrame(), QVector2D(0, -1), false, occupied);
+        axis.arrangeName(currentViewFrame(), occupied);
         axis.draw();
     };
     harness::grab(canvas);
