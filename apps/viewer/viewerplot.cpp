@@ -18,7 +18,7 @@
 namespace {
 
 // Of the window's width or height at the start; the rest is for the numbers on the axes and the legend.
-constexpr double startPart = 0.75;
+constexpr double startPart = 0.68;
 
 // In radii of the view: to the left, where no legend stands.
 constexpr double startShift = -0.06;
