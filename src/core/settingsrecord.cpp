@@ -6,6 +6,11 @@ namespace Zel3D {
 
 SettingsRecord::~SettingsRecord() = default;
 
+void SettingsRecord::resetNeedSave()
+{
+    needSave = false;
+}
+
 bool SettingsRecord::store(double& field, double value)
 {
     if (std::isnan(value) || isZero(field, value))

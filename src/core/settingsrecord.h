@@ -18,7 +18,8 @@ public:
     bool isSaveNeeded() const { return needSave; }
     /// Marks the record, so that the next save writes it.
     void markForSaving() { needSave = true; }
-    void resetNeedSave() { needSave = false; }
+    /// Clears the mark, and those of the records inside.
+    virtual void resetNeedSave();
 
 protected:
     /// Stores a value that differs and marks the record; returns whether it did.

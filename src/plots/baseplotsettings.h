@@ -186,7 +186,7 @@ public:
 
     /// Clears the flags of this record, mesh, normals, dot, cylinder and axes, but not that of the gradients:
     /// once marked, these are written at every later save.
-    void resetNeedSave();
+    void resetNeedSave() override;
 
     void saveSettings(const QString& prefix, const QString& organization, const QString& application);
     void loadSettings(const QString& prefix, const QString& organization, const QString& application);

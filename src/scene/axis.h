@@ -36,7 +36,6 @@ public:
                                   const QString& application);
         virtual void saveSettings(const QString& group, const QString& organization,
                                   const QString& application) const;
-        virtual void resetNeedSave() { needSave = false; }
 
     private:
         int kind;
@@ -59,7 +58,6 @@ public:
                                   const QString& application);
         virtual void saveSettings(const QString& group, const QString& organization,
                                   const QString& application) const;
-        virtual void resetNeedSave() { needSave = false; }
 
     private:
         bool visible = false;
@@ -90,7 +88,6 @@ public:
                                   const QString& application);
         virtual void saveSettings(const QString& group, const QString& organization,
                                   const QString& application) const;
-        virtual void resetNeedSave() { needSave = false; }
 
     private:
         bool visible = false;
@@ -123,7 +120,6 @@ public:
                                   const QString& application);
         virtual void saveSettings(const QString& group, const QString& organization,
                                   const QString& application) const;
-        virtual void resetNeedSave() { needSave = false; }
 
     private:
         bool visible = false;
@@ -147,7 +143,7 @@ public:
         /// The label shift when this record itself is marked, then each of the five records.
         virtual void saveSettings(const QString& group, const QString& organization,
                                   const QString& application) const;
-        virtual void resetNeedSave();
+        void resetNeedSave() override;
 
         MajorMinorSettings& getMajor() { return major; }
         const MajorMinorSettings& getMajor() const { return major; }

@@ -42,7 +42,6 @@ public:
                                   const QString& application);
         virtual void saveSettings(const QString& group, const QString& organization,
                                   const QString& application) const;
-        virtual void resetNeedSave() { needSave = false; }
 
     private:
         bool lineSmooth = true;

@@ -61,7 +61,6 @@ public:
                                   const QString& application);
         virtual void saveSettings(const QString& group, const QString& organization,
                                   const QString& application) const;
-        void resetNeedSave() { needSave = false; }
 
     private:
         template <class T>

@@ -28,7 +28,6 @@ public:
         bool setAlignment(int value) { return store(alignment, value); }
         /// Stores without marking for saving.
         void placeAt(Position value) { alignment = value; }
-        void resetNeedSave() { needSave = false; }
 
     private:
         int alignment = Right;
@@ -55,7 +54,7 @@ public:
                                   const QString& application);
         virtual void saveSettings(const QString& group, const QString& organization,
                                   const QString& application) const;
-        virtual void resetNeedSave();
+        void resetNeedSave() override;
 
         /// These store without marking for saving and return whether the value changed. placeAt() sets
         /// orientation and axis alignment with the position, unless it is unknown.
