@@ -4,6 +4,7 @@
 #include "core/griddata.h"
 #include "plots/arrowaddition.h"
 #include "plots/baseplotsettings.h"
+#include "plots/blendscope.h"
 #include "plots/gridwalk.h"
 #include "plots/shplot.h"
 #include "scene/basedraw.h"
@@ -36,31 +37,6 @@ void sendColor(const QColor& color)
 {
     glColor4d(color.redF(), color.greenF(), color.blueF(), color.alphaF());
 }
-
-/// Blends by alpha for a scope and puts back the blend function and the line width.
-class BlendScope
-{
-public:
-    BlendScope()
-    {
-        glGetIntegerv(GL_BLEND_DST, &destination);
-        glGetIntegerv(GL_BLEND_SRC, &source);
-        glGetFloatv(GL_LINE_WIDTH, &lineWidth);
-        glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
-    }
-    ~BlendScope()
-    {
-        glBlendFunc(GLenum(source), GLenum(destination));
-        BaseDraw::setGLLineWidth(lineWidth);
-    }
-    BlendScope(const BlendScope&) = delete;
-    BlendScope& operator=(const BlendScope&) = delete;
-
-private:
-    int destination = 0;
-    int source = 0;
-    float lineWidth = 1.0F;
-};
 
 /// Not a mode that OpenGL knows: it rejects the call and the polygon mode in force stays.
 constexpr unsigned int keptPolygonMode = 7;
