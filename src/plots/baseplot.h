@@ -19,6 +19,9 @@ class CoordinateSystem;
 class Data;
 class DataColor;
 class Legend;
+class PickHighlight;
+class PickPass;
+class PickPoints;
 class Title;
 struct EdgeChoice;
 
@@ -65,6 +68,7 @@ public:
     BoxScaling getBoxScaling() const { return boxScaling; }
     bool isAutomaticEdges() const { return automaticEdges; }
     bool isAutomaticFaces() const { return automaticFaces; }
+    bool isPickHighlight() const;
     bool isLogarithmicData(BaseAxisType axis) const { return logarithmicData[std::size_t(axis)]; }
     /// What stands around the data, owned by the plot. Changes show at the next paint; the intervals and
     /// scales of the axes are changed through the plot.
@@ -115,6 +119,8 @@ public:
     /// On: of each face with grid lines and the one opposite to it, the one behind the data shows the lines,
     /// as the view turns. Off, the default: the faces of the grid style.
     bool setAutomaticFaces(bool on);
+    /// On: the picked point is marked in the scene. Off by default.
+    bool setPickHighlight(bool on);
     /// On: the plain values of a direction become decimal exponents while data are loaded, and its scale
     /// logarithmic. Values at or below zero are then missing. Holds from the next load on. No signal of its
     /// own.
@@ -188,6 +194,7 @@ public slots:
     /// Sets the title's text; no repaint.
     virtual void slotSetTitle(const QString& text);
     void slotSetBoxScaling(Zel3D::BoxScaling scaling);
+    void slotSetPickHighlight(bool on);
 
 public:
     /// Switches the kind of container that is drawn; see Data::getDataType().
@@ -210,6 +217,8 @@ protected:
     virtual int getNumberSelectedData();
     virtual int getNumberSelectedAdditions();
     virtual int getNumberSelectedAddition(Addition& addition);
+    /// The points at which selectMarkers() places markers; here none.
+    virtual std::unique_ptr<PickPoints> createPickPoints() const;
     /// Applies the automatic scale or the user's to the view.
     virtual void updateAutoScale();
     virtual ValueXYZ<double> recalculateAutoScale();
@@ -240,16 +249,27 @@ signals:
     void boxScalingChanged(Zel3D::BoxScaling scaling);
     void automaticEdgesChanged(bool on);
     void automaticFacesChanged(bool on);
+    void pickHighlightChanged(bool on);
     /// For hosts and dialogs; the plot itself never emits it.
     void legendPositionChanged(unsigned int position);
 
 protected:
     void initializeGL() override;
     void paintGL() override;
+    int prepareSelection(const QPointF& position) override;
     void keyPressEvent(QKeyEvent* event) override;
 
     BasePlotSettings& settingsRecord() { return *settings; }
     Addition* heldStyleAddition() { return styleAddition.get(); }
+    /// For selectData() and selectAddition(): a pick sends a copy of the marker at every pick point that may
+    /// lie under the cursor, each under a name of its own. The second marks the points' projections onto the
+    /// plane of the contour plot.
+    void selectMarkers(const Addition& marker);
+    void selectProjections(const Addition& marker);
+    /// For checks: a pick sends what is far from the cursor, too, and must find the same.
+    void setPickEverything(bool on);
+    /// Forgets what can be picked; for when the data go.
+    void clearPickPoints();
     /// Not owned; null for none.
     void setData(Data* container);
     /// The data's box, or the fixed box when that is usable; zero where the data has no finite extent.
@@ -258,6 +278,8 @@ protected:
     bool canDrawData() const;
     /// The directions whose plain values become exponents while loading.
     const std::array<bool, 3>& getLogarithmicData() const { return logarithmicData; }
+    /// The directions whose values in the plot are exponents.
+    const std::array<bool, 3>& getLoadedLogarithmic() const { return loadedLogarithmic; }
     /// Gives the directions whose kind of values changed since the last load their scale.
     void applyLogarithmicData();
     /// Says once that so many values at or below zero have no exponent.
@@ -265,12 +287,14 @@ protected:
     /// Frees the list of the data and additions; the context is made current.
     void removeDataList();
     /// The geometry is compiled again at the next paint.
-    void markDataChanged() { dataDirty = true; }
+    void markDataChanged() { dataDirty = selectionDirty = true; }
     /// The same, and the normals too: their places or colours changed.
-    void markAllChanged() { dataDirty = normalsDirty = true; }
+    void markAllChanged() { dataDirty = normalsDirty = selectionDirty = true; }
 
 private:
     void rebuildWhatChanged();
+    void compileSelection();
+    void highlightPick(const SelectedObjectsInfo& info);
     void warnWithoutGradient();
     void applyShading() const;
     void drawCoordinateSystem();
@@ -284,9 +308,12 @@ private:
     std::unique_ptr<DataColor> dataColor;
     std::array<DisplayList, 2> drawingLists; ///< normals; data and additions
     std::array<DisplayList, 1> selectionLists;
+    std::unique_ptr<PickPass> pickPass;
+    std::unique_ptr<PickHighlight> pickHighlight;
     const QGLContext* listContext = nullptr; ///< where the lists live
     bool dataDirty = false;
     bool normalsDirty = false;
+    bool selectionDirty = true;
     bool warnedWithoutGradient = false;
     bool warnedOfLostValues = false;
     std::unique_ptr<Addition> styleAddition;
