@@ -8,6 +8,7 @@
 #include "plots/baseplotsettings.h"
 #include "plots/pickhighlight.h"
 #include "plots/pickpass.h"
+#include "plots/plotactions.h"
 #include "scene/coordinatesystem.h"
 #include "scene/facepolicy.h"
 #include "scene/legend.h"
@@ -43,7 +44,8 @@ BasePlot::BasePlot(const QString& name, const QString& organizationName, const Q
       title(std::make_unique<Title>()),
       legend(std::make_unique<Legend>()),
       edges(std::make_unique<EdgeChoice>()),
-      settings(std::make_unique<BasePlotSettings>())
+      settings(std::make_unique<BasePlotSettings>()),
+      actions(std::make_unique<PlotActions>(*this))
 {
     for (BaseAxisType axis : {XAxis, YAxis, ZAxis})
         settings->getAxes().addAxis(axis, BaseAxesSettings(Linear));
@@ -62,6 +64,7 @@ BasePlot::BasePlot(const QString& name, const QString& organizationName, const Q
     BasePlot::setAutoScaling(true);
     setDataColor(new DataColor(this, QString(), QLinearGradient()));
     connect(this, &ZelGLWidget::selectedObject, this, &BasePlot::highlightPick);
+    createActions();
     // The hidden line style fills the surface with the background colour.
     connect(this, &ZelGLWidget::backgroundColorChanged, this, [this] { markDataChanged(); });
 }

@@ -12,6 +12,10 @@
 #include <array>
 #include <memory>
 
+class QAction;
+class QMenu;
+class QToolBar;
+
 namespace Zel3D {
 
 class Addition;
@@ -22,6 +26,8 @@ class Legend;
 class PickHighlight;
 class PickPass;
 class PickPoints;
+class PlotActions;
+class StyleAction;
 class Title;
 struct EdgeChoice;
 
@@ -82,6 +88,22 @@ public:
     ValueXYZ<double> getAutoScaleInverse() const;
     /// Height of the contour plot: the data's maximum z for the top plane, minimum z for the bottom, else 0.
     double getViewProjectionZ() const;
+    /// @}
+
+    /// @name Actions
+    /// @{
+    /// A bar of the plot, made without a parent. The host that places it takes it over, may delete it at any
+    /// time and may delete the plot first; the plot deletes the bars that nobody took. Null for a bar that
+    /// its host has deleted.
+    QToolBar* getToolBar(PlotToolBarType type) const;
+    /// The bars as submenus and the settings; owned by the plot. Null until the subclass has made it.
+    QMenu* getContextMenu() const;
+    /// The exclusive actions of the plot styles, owned by the plot.
+    QList<StyleAction*> getStyleActions() const;
+    /// Check the actions that stand for the grid style and the plot style in force, without choosing them.
+    /// Only needed after changes past the plot's own setters.
+    void updateGridStyleToolBar();
+    void updatePlotStyleToolBar();
     /// @}
 
     /// @name Changing: true when the value changed; the signal named after the property follows
@@ -193,8 +215,30 @@ public slots:
     virtual void slotSetAutoScaling(bool on);
     /// Sets the title's text; no repaint.
     virtual void slotSetTitle(const QString& text);
+    /// Opens the settings dialog of a subclass that has one.
+    virtual void slotSettingsDialog();
+    /// Chooses the style of a StyleAction; any other action does nothing.
+    void slotPlotStyleChanged(QAction* action);
+    /// Shows or hides the grid lines of an action's face; repaints on a change.
+    void slotGridStyleChanged(QAction* action);
+    /// Off hides the marker of a visible legend; on makes what can be picked.
+    void slotSelectingChanged(bool on);
+    /// While picking is on, marks the picked height on a visible legend.
+    void slotSelectedObject(const Zel3D::SelectedObjectsInfo& info);
+    /// The standard views: rotations about x and z, in degrees, by (90, 0), (-90, 0), (0, 90), (0, -90),
+    /// (0, 0) and (0, 180).
+    void slotTopView();
+    void slotBottomView();
+    void slotLeftView();
+    void slotRightView();
+    void slotFrontView();
+    void slotBackView();
     void slotSetBoxScaling(Zel3D::BoxScaling scaling);
     void slotSetPickHighlight(bool on);
+
+protected:
+    /// Checks the action of the plot style in force.
+    virtual void checkStyleActionTriggered();
 
 public:
     /// Switches the kind of container that is drawn; see Data::getDataType().
@@ -222,6 +266,9 @@ protected:
     /// Applies the automatic scale or the user's to the view.
     virtual void updateAutoScale();
     virtual ValueXYZ<double> recalculateAutoScale();
+    /// Adds the styles of the subclass with addStyleAction(). The constructor of each subclass calls this,
+    /// createPlotStyleToolBar() and createContextMenu(), in that order.
+    virtual void createPlotStyleActions() = 0;
 
 signals:
     void plotStyleChanged(int style);
@@ -231,6 +278,8 @@ signals:
     void polygonOffsetChanged(double factor);
     void shadingStyleChanged(Zel3D::ShadingStyle style);
     void viewProjectionChanged(Zel3D::ViewProjection projection);
+    /// For hosts and dialogs; the plot itself never emits it.
+    void plotStyleToolBarChanged(const QList<QAction*>& actions);
     void meshSmoothChanged(bool on);
     void meshColorChanged(const QColor& color);
     void meshLineWidthChanged(double pixels);
@@ -243,6 +292,8 @@ signals:
     void dotSmoothChanged(bool on);
     /// For hosts and dialogs; the plot itself never emits it.
     void autoScalingChanged(bool on);
+    /// For hosts and dialogs; the plot itself never emits it.
+    void legendPositionChanged(unsigned int position);
     void minorIntervalChanged(unsigned int count);
     void majorIntervalChanged(unsigned int count);
     void axesScaleChanged(Zel3D::ScaleType scale);
@@ -250,15 +301,20 @@ signals:
     void automaticEdgesChanged(bool on);
     void automaticFacesChanged(bool on);
     void pickHighlightChanged(bool on);
-    /// For hosts and dialogs; the plot itself never emits it.
-    void legendPositionChanged(unsigned int position);
 
 protected:
     void initializeGL() override;
     void paintGL() override;
     int prepareSelection(const QPointF& position) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
+    void createViewsToolBar();
+    void createGridStyleToolBar();
+    void createPlotStyleToolBar();
+    void createContextMenu();
+    /// The action of one plot style, owned by the plot; \a icon is a path, \a label the translated text.
+    StyleAction* addStyleAction(int style, const QString& icon, const QString& label);
     BasePlotSettings& settingsRecord() { return *settings; }
     Addition* heldStyleAddition() { return styleAddition.get(); }
     /// For selectData() and selectAddition(): a pick sends a copy of the marker at every pick point that may
@@ -292,6 +348,8 @@ protected:
     void markAllChanged() { dataDirty = normalsDirty = selectionDirty = true; }
 
 private:
+    void createActions();
+    void repaintLegend();
     void rebuildWhatChanged();
     void compileSelection();
     void highlightPick(const SelectedObjectsInfo& info);
@@ -335,6 +393,7 @@ private:
     Parallelepiped hull;
     Parallelepiped fixedHull;
     Pair<double> gradientRange;
+    std::unique_ptr<PlotActions> actions;
 };
 
 } // namespace Zel3D

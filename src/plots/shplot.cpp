@@ -30,6 +30,9 @@ SHPlot::SHPlot(const QString& name, const QString& organizationName, const QStri
 {
     setAttribute(Qt::WA_AlwaysShowToolTips);
     setData(gridData.get());
+    SHPlot::createPlotStyleActions();
+    createPlotStyleToolBar();
+    createContextMenu();
 }
 
 SHPlot::~SHPlot() = default;

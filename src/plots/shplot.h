@@ -66,6 +66,7 @@ protected:
     void selectViewProjection();
     int getNumberSelectedViewProjection() const;
     std::unique_ptr<PickPoints> createPickPoints() const override;
+    void createPlotStyleActions() override;
 
     void createGridData();
     void createCellData();
