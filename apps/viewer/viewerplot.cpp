@@ -11,6 +11,7 @@
 #include "view/light.h"
 
 #include <QGLFramebufferObject>
+#include <QSignalBlocker>
 
 #include <algorithm>
 #include <array>
@@ -57,6 +58,7 @@ ViewerPlot::ViewerPlot(QWidget* parent)
     setDotSize(3.0);
     setDotSmooth(true);
     setKeepProportions(true);
+    setPickHighlight(true);
     lightFromNorthWest();
     resetView();
 }
@@ -175,7 +177,11 @@ QImage ViewerPlot::picture(const QSize& pixels)
     QGLFramebufferObject buffer(pixels, format);
     if (!buffer.isValid() || !buffer.bind())
         return QImage();
+    // The mark of the mouse is no part of the picture.
+    const QSignalBlocker quiet(this);
+    const bool highlight = setPickHighlight(false);
     resizeGL(pixels.width(), pixels.height());
+    setPickHighlight(highlight);
     const QImage image = buffer.toImage().convertToFormat(QImage::Format_RGB32);
     buffer.release();
     resizeGL(qRound(width() * devicePixelRatioF()), qRound(height() * devicePixelRatioF()));

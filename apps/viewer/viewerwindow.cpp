@@ -3,6 +3,7 @@
 #include "gridfile.h"
 #include "picturefile.h"
 #include "plotstyles.h"
+#include "view/plotstatusbar.h"
 #include "viewerplot.h"
 
 #include <QActionGroup>
@@ -17,13 +18,24 @@
 #include <QMimeData>
 #include <QScreen>
 #include <QSettings>
-#include <QStatusBar>
+#include <QToolBar>
 
 namespace {
 
 constexpr char geometryKey[] = "window/geometry";
 constexpr QSize usualSize(1000, 800);
 constexpr char folderKey[] = "window/folder";
+constexpr char stateKey[] = "window/state";
+constexpr char pickingKey[] = "window/picking";
+constexpr char lightingKey[] = "window/lighting";
+constexpr char styleKey[] = "window/style";
+constexpr char lookKey[] = "window/look";
+constexpr QSize barIcons(22, 22);
+
+QIcon icon(const char* name)
+{
+    return QIcon(QStringLiteral(":/plot/images/%1.svg").arg(QLatin1String(name)));
+}
 
 QString droppedFile(const QMimeData& data)
 {
@@ -46,28 +58,108 @@ public:
 ViewerWindow::ViewerWindow()
     : m_plot(new ViewerPlot),
       m_description(new QLabel(tr("Open a grid file with File, Open or drop one here."))),
-      m_styles(new QActionGroup(this))
+      m_styles(new QActionGroup(this)),
+      m_looks(new QActionGroup(this))
 {
     setCentralWidget(m_plot);
+    setWindowIcon(icon("voranview"));
+    setStatusBar(new Zel3D::PlotStatusBar(m_plot, this));
     setAcceptDrops(true);
     setWindowTitle(tr("voranview"));
+    m_description->setObjectName("description");
     // As long as it is, the text must not keep the window wide.
     m_description->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     statusBar()->addWidget(m_description, 1);
     createFileMenu();
     createPlotMenu();
+    dockToolBars();
+    createViewMenu();
     connect(m_plot, &ViewerPlot::plotStyleChanged, this, &ViewerWindow::showStyle);
     showStyle(m_plot->plotStyle());
-    if (!restoreGeometry(QSettings().value(geometryKey).toByteArray()))
+    restore();
+    m_plot->setFocus();
+}
+
+void ViewerWindow::restore()
+{
+    const QSettings settings;
+    if (!restoreGeometry(settings.value(geometryKey).toByteArray()))
         resize(usualSize.boundedTo(QGuiApplication::primaryScreen()->availableSize()));
+    restoreState(settings.value(stateKey).toByteArray());
+    m_plot->setSelecting(settings.value(pickingKey, true).toBool());
+    m_plot->setLighting(settings.value(lightingKey, m_plot->isLighting()).toBool());
+    const int style = settings.value(styleKey, m_plot->plotStyle()).toInt();
+    if (style <= PlotStyles::Histogram)
+        m_plot->setPlotStyle(style);
+    const QString look = settings.value(lookKey).toString();
+    for (QAction* action : m_looks->actions()) {
+        if (action->text() == look && !action->isChecked())
+            action->trigger();
+    }
+    m_fullScreenAction->setChecked(isFullScreen());
+}
+
+void ViewerWindow::remember() const
+{
+    QSettings settings;
+    settings.setValue(geometryKey, saveGeometry());
+    settings.setValue(stateKey, saveState());
+    settings.setValue(pickingKey, m_plot->isSelecting());
+    settings.setValue(lightingKey, m_plot->isLighting());
+    settings.setValue(styleKey, m_plot->plotStyle());
+    settings.setValue(lookKey, m_looks->checkedAction()->text());
+}
+
+void ViewerWindow::dockToolBars()
+{
+    for (Zel3D::PlotToolBarType type :
+         {Zel3D::PlotStyleToolBar, Zel3D::ViewsToolBar, Zel3D::GridStyleToolBar}) {
+        QToolBar* bar = m_plot->getToolBar(type);
+        bar->setIconSize(barIcons);
+        addToolBar(bar);
+    }
+}
+
+void ViewerWindow::createViewMenu()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&View"));
+    QAction* reset = menu->addAction(icon("resetview"), tr("&Reset view"), this, &ViewerWindow::resetView,
+                                     QKeySequence(Qt::CTRL + Qt::Key_R));
+    reset->setStatusTip(tr("Rotation, shift and zoom of the start"));
+    menu->addSeparator();
+    int number = 1;
+    for (QAction* action : m_plot->getToolBar(Zel3D::ViewsToolBar)->actions()) {
+        action->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+%1").arg(number++)));
+        menu->addAction(action);
+    }
+    menu->addSeparator();
+    QMenu* planes = menu->addMenu(tr("&Grid planes"));
+    planes->addActions(m_plot->getToolBar(Zel3D::GridStyleToolBar)->actions());
+    menu->addSeparator();
+    QMenu* bars = menu->addMenu(tr("Tool &bars"));
+    for (QToolBar* bar : findChildren<QToolBar*>())
+        bars->addAction(bar->toggleViewAction());
+    QAction* status = addSwitch(*menu, tr("&Status bar"), QKeySequence());
+    status->setChecked(true);
+    connect(status, &QAction::triggered, statusBar(), &QWidget::setVisible);
+    m_fullScreenAction = addSwitch(*menu, tr("F&ull screen"), QKeySequence(Qt::Key_F11));
+    m_fullScreenAction->setIcon(icon("fullscreen"));
+    connect(m_fullScreenAction, &QAction::triggered, this, &ViewerWindow::showFullScreen);
+    // What the menus offer works while they are hidden, too.
+    addActions(menu->actions());
+}
+
+void ViewerWindow::showFullScreen(bool on)
+{
+    setWindowState(windowState().setFlag(Qt::WindowFullScreen, on));
 }
 
 void ViewerWindow::createFileMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&File"));
-    menu->addAction(tr("&Open..."), this, &ViewerWindow::chooseFile, QKeySequence::Open);
-    m_saveAction =
-        menu->addAction(tr("&Save picture..."), this, &ViewerWindow::savePicture, QKeySequence::Save);
+    menu->addAction(icon("open"), tr("&Open..."), this, &ViewerWindow::chooseFile, QKeySequence::Open);
+    m_saveAction = menu->addAction(icon("savepicture"), tr("&Save picture..."), this,
+                                   &ViewerWindow::savePicture, QKeySequence::Save);
     m_saveAction->setEnabled(false);
     menu->addSeparator();
     menu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence(Qt::CTRL + Qt::Key_Q));
@@ -104,6 +196,11 @@ void ViewerWindow::createPlotMenu()
     connect(m_meshAction, &QAction::triggered, m_plot, [this](bool on) {
         m_plot->slotSetPlotStyle(on ? PlotStyles::FilledAndMesh : PlotStyles::Filled);
     });
+    m_pickingAction = addSwitch(*menu, tr("Pi&ck values"), QKeySequence(Qt::CTRL + Qt::Key_K));
+    m_pickingAction->setIcon(icon("select"));
+    m_pickingAction->setStatusTip(tr("Show the value under the cursor"));
+    connect(m_pickingAction, &QAction::triggered, m_plot, &ViewerPlot::slotSetSelecting);
+    connect(m_plot, &ViewerPlot::selectingChanged, m_pickingAction, &QAction::setChecked);
     m_lightingAction = addSwitch(*menu, tr("&Lighting"), QKeySequence(Qt::CTRL + Qt::Key_L));
     connect(m_lightingAction, &QAction::triggered, m_plot, &ViewerPlot::slotSetLighting);
     connect(m_plot, &ViewerPlot::lightingChanged, m_lightingAction, &QAction::setChecked);
@@ -116,8 +213,6 @@ void ViewerWindow::createPlotMenu()
         [this](Zel3D::ProjectionType type) { m_perspectiveAction->setChecked(type == Zel3D::Perspective); });
     addScalingActions(*menu->addMenu(tr("&Scaling")));
     addLookActions(*menu->addMenu(tr("Loo&k")));
-    menu->addSeparator();
-    menu->addAction(tr("&Reset view"), this, &ViewerWindow::resetView, QKeySequence(Qt::CTRL + Qt::Key_R));
 }
 
 void ViewerWindow::addScalingActions(QMenu& menu)
@@ -139,23 +234,22 @@ void ViewerWindow::addScalingActions(QMenu& menu)
 
 void ViewerWindow::addLookActions(QMenu& menu)
 {
-    auto* group = new QActionGroup(this);
     const QList<Zel3D::Look> looks = Zel3D::Look::all();
     for (const Zel3D::Look& look : looks) {
         QAction* action = addSwitch(menu, look.name, QKeySequence());
-        group->addAction(action);
+        m_looks->addAction(action);
         connect(action, &QAction::triggered, m_plot, [this, look] {
             m_plot->setLook(look);
-            m_plot->updateGL();
+            m_plot->update();
         });
     }
-    group->actions().first()->setChecked(true);
+    m_looks->actions().first()->setChecked(true);
 }
 
 void ViewerWindow::resetView()
 {
     m_plot->resetView();
-    m_plot->updateGL();
+    m_plot->update();
 }
 
 void ViewerWindow::showStyle(int style)
@@ -272,6 +366,6 @@ void ViewerWindow::dropEvent(QDropEvent* event)
 
 void ViewerWindow::closeEvent(QCloseEvent* event)
 {
-    QSettings().setValue(geometryKey, saveGeometry());
+    remember();
     QMainWindow::closeEvent(event);
 }

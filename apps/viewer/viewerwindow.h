@@ -8,7 +8,8 @@ class QLabel;
 class ViewerPlot;
 struct Grid;
 
-/// The viewer's window: one plot, opened from the menu or by dropping a file, and the menus that change it.
+/// The viewer's window: one plot, opened from the menu or by dropping a file, with its tool bars and status
+/// bar and the menus that change it. The window comes back as it was left.
 class ViewerWindow : public QMainWindow
 {
     Q_OBJECT
@@ -33,6 +34,11 @@ protected:
 private:
     void createFileMenu();
     void createPlotMenu();
+    void createViewMenu();
+    void dockToolBars();
+    void showFullScreen(bool on);
+    void restore();
+    void remember() const;
     void addStyleActions(QMenu& menu);
     void addScalingActions(QMenu& menu);
     void addLookActions(QMenu& menu);
@@ -46,7 +52,10 @@ private:
     ViewerPlot* m_plot;
     QLabel* m_description;
     QActionGroup* m_styles;
+    QActionGroup* m_looks;
     QAction* m_saveAction = nullptr;
+    QAction* m_pickingAction = nullptr;
+    QAction* m_fullScreenAction = nullptr;
     QAction* m_meshAction = nullptr;
     QAction* m_lightingAction = nullptr;
     QAction* m_perspectiveAction = nullptr;

@@ -14,6 +14,7 @@
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QToolBar>
 #include <QtTest>
 
 #include <algorithm>
@@ -71,6 +72,7 @@ private slots:
     void menuAndPlotFollowEachOther();
     void resetBringsTheStartViewBack();
     void pictureIsThePlotOnTheScreen();
+    void windowComesBackAsItWasLeft();
 
 private:
     QAction& action(const QString& text) const;
@@ -90,6 +92,7 @@ void TestViewerWindow::init()
 void TestViewerWindow::cleanup()
 {
     m_window.reset();
+    harness::clearStore();
 }
 
 QAction& TestViewerWindow::action(const QString& text) const
@@ -105,7 +108,7 @@ QAction& TestViewerWindow::action(const QString& text) const
 void TestViewerWindow::titleAndStatusTellOfTheGrid()
 {
     QVERIFY(m_window->windowTitle().startsWith("jacksboro_dem.asc"));
-    const QString status = m_window->statusBar()->findChild<QLabel*>()->text();
+    const QString status = m_window->statusBar()->findChild<QLabel*>("description")->text();
     QVERIFY2(status.contains("403 x 344") && status.contains("236 to 1076"), qPrintable(status));
     QCOMPARE(m_window->plot().getTitle().getSettings().getText(), QString("jacksboro_dem.asc"));
     // The same on every edge of a direction.
@@ -201,6 +204,25 @@ void TestViewerWindow::pictureIsThePlotOnTheScreen()
     plot.getLegend().setVisible(true);
     // Drawing off the screen leaves the plot on the screen as it was.
     QCOMPARE(harness::grab(plot).convertToFormat(QImage::Format_RGB32), screen);
+}
+
+void TestViewerWindow::windowComesBackAsItWasLeft()
+{
+    action("Pick values").trigger();
+    action("Lighting").trigger();
+    action("Dark").trigger();
+    m_window->plot().slotSetPlotStyle(PlotStyles::Wireframe);
+    m_window->plot().getToolBar(Zel3D::ViewsToolBar)->setVisible(false);
+    m_window->addToolBar(Qt::LeftToolBarArea, m_window->plot().getToolBar(Zel3D::PlotStyleToolBar));
+    m_window->close();
+    ViewerWindow again;
+    again.show();
+    QVERIFY(!again.plot().isSelecting());
+    QVERIFY(!again.plot().isLighting());
+    QCOMPARE(again.plot().plotStyle(), int(PlotStyles::Wireframe));
+    QCOMPARE(again.plot().getBackgroundColor(), Zel3D::Look::dark().background);
+    QVERIFY(!again.plot().getToolBar(Zel3D::ViewsToolBar)->isVisible());
+    QCOMPARE(again.toolBarArea(again.plot().getToolBar(Zel3D::PlotStyleToolBar)), Qt::LeftToolBarArea);
 }
 
 int main(int argc, char* argv[])
