@@ -370,10 +370,14 @@ void TestPlotActions::followingDoesNotFeedBack()
     auto* group = plot.findChild<QActionGroup*>();
     for (QAction* action : group->actions())
         connect(action, &QAction::toggled, group, [group, action] { emit group->triggered(action); });
+    const QSignalSpy grid(&plot, &BasePlot::gridStyleChanged);
+    const QSignalSpy styles(&plot, &BasePlot::plotStyleChanged);
     plot.setGridStyle(32);
     QCOMPARE(plot.getCoordinateSystem().getSettings().getGridStyle(), 32);
+    QCOMPARE(grid.count(), 1);
     plot.slotSetPlotStyle(4);
     QCOMPARE(plot.getSettings().getStyle(), 4);
+    QCOMPARE(styles.count(), 1);
 }
 
 void TestPlotActions::stylesExclude()
