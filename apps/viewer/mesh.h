@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QStringList>
+#include <QVector3D>
+#include <QVector>
+
+/// Points joined into polygons, as a surface plot takes them.
+struct Mesh
+{
+    QVector<QVector3D> vertices;          ///< each at a place of its own and a corner of at least one cell
+    QVector<QVector<unsigned int>> cells; ///< polygons as indices into the vertices, in winding order
+    QStringList notes;                    ///< sentences on what was changed or left out while reading
+};

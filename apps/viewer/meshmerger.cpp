@@ -1,0 +1,134 @@
+#include "meshmerger.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+
+#include <assimp/scene.h>
+
+namespace {
+
+constexpr unsigned int noVertex = std::numeric_limits<unsigned int>::max();
+
+} // namespace
+
+std::size_t MeshMerger::PlaceHash::operator()(const Place& place) const
+{
+    std::size_t seed = 0;
+    for (const float coordinate : {place.x, place.y, place.z})
+        seed = seed * 0x9E3779B97F4A7C15U + std::hash<float>()(coordinate);
+    return seed ^ (seed >> 29);
+}
+
+void MeshMerger::take(const aiScene& scene)
+{
+    takeNode(scene, *scene.mRootNode, aiMatrix4x4());
+    m_places.clear();
+}
+
+void MeshMerger::takeNode(const aiScene& scene, const aiNode& node, const aiMatrix4x4& above)
+{
+    const aiMatrix4x4 transform = above * node.mTransformation;
+    for (unsigned int i = 0; i < node.mNumMeshes; ++i)
+        takeMesh(*scene.mMeshes[node.mMeshes[i]], transform);
+    for (unsigned int i = 0; i < node.mNumChildren; ++i)
+        takeNode(scene, *node.mChildren[i], transform);
+}
+
+unsigned int MeshMerger::vertexAt(const Place& place)
+{
+    const auto found = m_places.emplace(place, static_cast<unsigned int>(m_mesh.vertices.size()));
+    if (found.second)
+        m_mesh.vertices.append(QVector3D(place.x, place.y, place.z));
+    return found.first->second;
+}
+
+/// Newell's sum, which is twice the area of a polygon, whatever its shape.
+bool MeshMerger::hasArea(const QVector<unsigned int>& cell) const
+{
+    std::array<double, 3> sum{};
+    const QVector3D origin = m_mesh.vertices[static_cast<int>(cell.front())];
+    const auto corner = [&](int k) {
+        const QVector3D& at = m_mesh.vertices[static_cast<int>(cell[k % cell.size()])];
+        return std::array<double, 3>{double(at.x()) - double(origin.x()), double(at.y()) - double(origin.y()),
+                                     double(at.z()) - double(origin.z())};
+    };
+    for (int k = 0; k < cell.size(); ++k) {
+        const auto a = corner(k);
+        const auto b = corner(k + 1);
+        for (std::size_t i = 0; i < 3; ++i)
+            sum[i] += a[(i + 1) % 3] * b[(i + 2) % 3] - a[(i + 2) % 3] * b[(i + 1) % 3];
+    }
+    return sum != std::array<double, 3>{};
+}
+
+void MeshMerger::takeMesh(const aiMesh& mesh, const aiMatrix4x4& transform)
+{
+    // A transform that mirrors turns the winding round.
+    const bool mirrored = transform.Determinant() < 0;
+    std::vector<bool> used(mesh.mNumVertices, false);
+    QVector<unsigned int> cell;
+    for (unsigned int i = 0; i < mesh.mNumFaces; ++i) {
+        const aiFace& face = mesh.mFaces[i];
+        for (unsigned int k = 0; k < face.mNumIndices; ++k)
+            used[face.mIndices[k]] = true;
+        if (face.mNumIndices == 1 || face.mNumIndices == 2) {
+            ++m_pointsAndLines;
+            continue;
+        }
+        cell.clear();
+        bool finite = true;
+        for (unsigned int k = 0; k < face.mNumIndices; ++k) {
+            const aiVector3D at = transform * mesh.mVertices[face.mIndices[k]];
+            finite = finite && std::isfinite(at.x) && std::isfinite(at.y) && std::isfinite(at.z);
+            if (!finite)
+                break;
+            const unsigned int vertex = vertexAt({at.x, at.y, at.z});
+            if (cell.isEmpty() || cell.back() != vertex)
+                cell.append(vertex);
+        }
+        while (cell.size() > 1 && cell.front() == cell.back())
+            cell.removeLast();
+        if (!finite)
+            ++m_infinite;
+        else if (cell.size() < 3 || !hasArea(cell))
+            ++m_flat;
+        else {
+            if (mirrored)
+                std::reverse(cell.begin(), cell.end());
+            m_mesh.cells.append(cell);
+        }
+    }
+    m_unused += static_cast<int>(std::count(used.begin(), used.end(), false));
+}
+
+Mesh MeshMerger::finish()
+{
+    // Corners of cells that were left out have their vertices still.
+    std::vector<unsigned int> numbers(static_cast<std::size_t>(m_mesh.vertices.size()), noVertex);
+    QVector<QVector3D> vertices;
+    vertices.reserve(m_mesh.vertices.size());
+    for (QVector<unsigned int>& cell : m_mesh.cells) {
+        for (unsigned int& corner : cell) {
+            unsigned int& number = numbers[corner];
+            if (number == noVertex) {
+                number = static_cast<unsigned int>(vertices.size());
+                vertices.append(m_mesh.vertices[static_cast<int>(corner)]);
+            }
+            corner = number;
+        }
+    }
+    m_mesh.vertices = vertices;
+    if (m_flat > 0)
+        m_mesh.notes.append(tr("Faces without area left out: %1.").arg(m_flat));
+    if (m_infinite > 0)
+        m_mesh.notes.append(tr("Faces with a corner at no finite place left out: %1.").arg(m_infinite));
+    if (m_pointsAndLines > 0)
+        m_mesh.notes.append(tr("Points and lines left out: %1.").arg(m_pointsAndLines));
+    if (m_unused > 0)
+        m_mesh.notes.append(tr("Vertices without a face left out: %1.").arg(m_unused));
+    Mesh made = std::move(m_mesh);
+    *this = MeshMerger();
+    return made;
+}

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "mesh.h"
+
+#include <QCoreApplication>
+
+#include <cstdint>
+#include <unordered_map>
+
+#include <assimp/matrix4x4.h>
+
+struct aiMesh;
+struct aiNode;
+struct aiScene;
+
+/// Makes one mesh of a scene; see MeshFile for what is joined and what is left out.
+class MeshMerger
+{
+    Q_DECLARE_TR_FUNCTIONS(MeshMerger)
+
+public:
+    /// Throws std::bad_alloc.
+    void take(const aiScene& scene);
+    /// The mesh with its notes. Empties the merger.
+    Mesh finish();
+
+    /// How many polygons with an area there are.
+    int cells() const { return m_mesh.cells.size(); }
+    /// How many faces were left out because they have no area.
+    int flat() const { return m_flat; }
+    /// How many faces of one or two corners were left out.
+    int pointsAndLines() const { return m_pointsAndLines; }
+
+private:
+    struct Place
+    {
+        float x = 0.0F;
+        float y = 0.0F;
+        float z = 0.0F;
+        bool operator==(const Place& other) const { return x == other.x && y == other.y && z == other.z; }
+    };
+    struct PlaceHash
+    {
+        std::size_t operator()(const Place& place) const;
+    };
+
+    void takeNode(const aiScene& scene, const aiNode& node, const aiMatrix4x4& above);
+    void takeMesh(const aiMesh& mesh, const aiMatrix4x4& transform);
+    unsigned int vertexAt(const Place& place);
+    bool hasArea(const QVector<unsigned int>& cell) const;
+
+    Mesh m_mesh;
+    std::unordered_map<Place, unsigned int, PlaceHash> m_places;
+    int m_flat = 0;
+    int m_infinite = 0;
+    int m_pointsAndLines = 0;
+    int m_unused = 0;
+};
