@@ -3,6 +3,7 @@
 #include "plots/baseplot.h"
 
 #include <QLabel>
+#include <QResizeEvent>
 
 namespace Zel3D {
 
@@ -10,6 +11,7 @@ namespace {
 
 constexpr int messageTimeout = 1000; // ms
 constexpr int fewDigits = 2;
+constexpr int messageLetters = 32;
 
 QString filled(const QString& format, double x, double y, double z, int precision = -1)
 {
@@ -72,6 +74,20 @@ void PlotStatusBar::connectAll()
     connect(plot, &BasePlot::autoScalingChanged, this, &PlotStatusBar::slotAutoScalingChanged);
     connect(plot, &BasePlot::showInfoChanged, this, &PlotStatusBar::slotShowInfoChanged);
     connect(plot, &BasePlot::selectedObject, this, &PlotStatusBar::slotSelectedObject);
+}
+
+void PlotStatusBar::resizeEvent(QResizeEvent* event)
+{
+    // A label that would leave no room for the messages gives way.
+    int room = event->size().width() - messageLetters * fontMetrics().averageCharWidth();
+    for (QLabel* label :
+         {rotationLabel.data(), zoomLabel.data(), scaleLabel.data(), viewportShiftLabel.data()}) {
+        if (!label)
+            continue;
+        room -= label->sizeHint().width();
+        label->setVisible(room >= 0);
+    }
+    QStatusBar::resizeEvent(event);
 }
 
 void PlotStatusBar::slotRotationChanged(double x, double y, double z)

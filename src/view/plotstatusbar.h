@@ -41,6 +41,10 @@ public slots:
     /// Shows the values until something else is shown; a record that is not valid clears the message.
     void slotSelectedObject(const Zel3D::SelectedObjectsInfo& info);
 
+protected:
+    /// In a narrow bar the labels give way to the messages: the viewport shift first, the rotation last.
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     QLabel* addLabel(const QString& toolTip);
     void initByDefaultSettings();
