@@ -30,7 +30,17 @@ public:
     };
 
     /// Levels are heights in any order; those that are not finite are left out.
-    explicit SpectrumBands(const std::vector<double>& levels);
+    explicit SpectrumBands(const std::vector<double>& levels)
+    {
+        for (double level : levels) {
+            if (std::isfinite(level) && level != 0.0)
+                (level > 0.0 ? above : below).push_back(std::abs(level));
+        }
+        for (std::vector<double>* distances : {&above, &below}) {
+            std::sort(distances->begin(), distances->end());
+            distances->erase(std::unique(distances->begin(), distances->end()), distances->end());
+        }
+    }
 
     /// Where the straight line between two points of different height meets the base line.
     static double crossing(const CurvePoint& from, const CurvePoint& to)
