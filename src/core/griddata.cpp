@@ -99,6 +99,7 @@ void GridData::setData(double** z, unsigned int columns, unsigned int rows, doub
             highest = present && height > highest ? height : highest;
         }
     }
+    selectWritten = true;
     // Without a finite height the extremes are still beyond a float's range and become infinite.
     minimum.setZ(toFloat(lowest));
     maximum.setZ(toFloat(highest));
@@ -175,6 +176,7 @@ void GridData::clear()
     minimum = QVector3D();
     maximum = QVector3D();
     missing = false;
+    selectWritten = false;
 }
 
 bool GridData::isEmpty() const

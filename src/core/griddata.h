@@ -70,6 +70,13 @@ public:
     {
         return vector(node(column, row).selectValue);
     }
+    /// Whether select() reports anything: the grid was filled from heights.
+    bool hasSelectValues() const { return selectWritten; }
+    /// The three doubles that select() reports.
+    const double* selectVectorAt(unsigned int column, unsigned int row) const
+    {
+        return node(column, row).selectValue;
+    }
     /// Three doubles that the caller may write; calcNormals() must follow.
     double* valueVectorAt(unsigned int column, unsigned int row) { return node(column, row).value; }
     const double* valueVectorAt(unsigned int column, unsigned int row) const
@@ -118,6 +125,7 @@ private:
     double yMin = 0.0;
     double yMax = 0.0;
     bool missing = false;
+    bool selectWritten = false;
 };
 
 } // namespace Zel3D

@@ -42,4 +42,9 @@ void Addition::sendColor(const QColor& color)
     glColor4d(color.redF(), color.greenF(), color.blueF(), color.alphaF());
 }
 
+bool Addition::reach(Parallelepiped& /*box*/)
+{
+    return false;
+}
+
 } // namespace Zel3D

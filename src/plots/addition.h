@@ -1,8 +1,7 @@
 #pragma once
 
 #include "core/export.h"
-
-#include <QVector3D>
+#include "core/types.h"
 
 class QColor;
 
@@ -39,6 +38,9 @@ public:
     virtual void select(const QVector3D& p);
     /// As select(), at the point's projection onto the plane of constant z.
     virtual void selectProjection(const QVector3D& p, double z);
+    /// Widens a box of points to the box of all that select() draws at points in it, so that a pick need not
+    /// send markers far from the cursor. False, as here, when that is not known: a pick then sends them all.
+    virtual bool reach(Parallelepiped& box);
 
     /// Whether a setter changed something since construction or resetModified(); only then settings are
     /// saved.

@@ -84,4 +84,17 @@ void ArrowAddition::draw(const QVector3D& p)
     gluCylinder(quadric->get(), headRadius * length, 0.0, headFraction * length, slices, 1);
 }
 
+bool ArrowAddition::reach(Parallelepiped& box)
+{
+    for (int k = 0; k < 3; ++k) {
+        box.minimum[k] = std::min(box.minimum[k], tip[k]);
+        box.maximum[k] = std::max(box.maximum[k], tip[k]);
+    }
+    // The head is as wide as a fraction of the arrow, which is no longer than the box's diagonal.
+    const float around = std::abs(float(headRadius)) * (box.maximum - box.minimum).length();
+    box.minimum -= QVector3D(around, around, around);
+    box.maximum += QVector3D(around, around, around);
+    return true;
+}
+
 } // namespace Zel3D

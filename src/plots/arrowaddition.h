@@ -33,6 +33,7 @@ public:
 
     Addition* clone() const override;
     void draw(const QVector3D& p) override;
+    bool reach(Parallelepiped& box) override;
 
 private:
     std::unique_ptr<Quadric> quadric;

@@ -52,6 +52,11 @@ void BaseDot::select(const QVector3D& p)
     glEnd();
 }
 
+bool BaseDot::reach(Parallelepiped& /*box*/)
+{
+    return true;
+}
+
 void BaseDot::saveSettings(const QString& group, const QString& organization, const QString& application)
 {
     if (!modified)

@@ -31,6 +31,7 @@ public:
     void end() override;
     /// The point as a primitive of its own.
     void select(const QVector3D& p) override;
+    bool reach(Parallelepiped& box) override; ///< a dot is a point
 
     /// Writes the keys if a setter changed something; %0 = group.
     void saveSettings(const QString& group, const QString& organization, const QString& application);

@@ -6,6 +6,9 @@
 #include "core/datacolor.h"
 #include "plots/addition.h"
 #include "plots/baseplotsettings.h"
+#include "plots/pickhighlight.h"
+#include "plots/pickpass.h"
+#include "plots/plotactions.h"
 #include "scene/coordinatesystem.h"
 #include "scene/facepolicy.h"
 #include "scene/legend.h"
@@ -35,11 +38,14 @@ constexpr unsigned int listState = GL_ENABLE_BIT | GL_LINE_BIT | GL_POINT_BIT | 
 BasePlot::BasePlot(const QString& name, const QString& organizationName, const QString& applicationName,
                    QWidget* parent, const QGLWidget* shareWidget, Qt::WindowFlags flags)
     : ZelGLWidget(name, organizationName, applicationName, parent, shareWidget, flags),
+      pickPass(std::make_unique<PickPass>()),
+      pickHighlight(std::make_unique<PickHighlight>()),
       coordinateSystem(std::make_unique<CoordinateSystem>(QVector3D(), QVector3D())),
       title(std::make_unique<Title>()),
       legend(std::make_unique<Legend>()),
       edges(std::make_unique<EdgeChoice>()),
-      settings(std::make_unique<BasePlotSettings>())
+      settings(std::make_unique<BasePlotSettings>()),
+      actions(std::make_unique<PlotActions>(*this))
 {
     for (BaseAxisType axis : {XAxis, YAxis, ZAxis})
         settings->getAxes().addAxis(axis, BaseAxesSettings(Linear));
@@ -57,6 +63,8 @@ BasePlot::BasePlot(const QString& name, const QString& organizationName, const Q
     setMouseTracking(true);
     BasePlot::setAutoScaling(true);
     setDataColor(new DataColor(this, QString(), QLinearGradient()));
+    connect(this, &ZelGLWidget::selectedObject, this, &BasePlot::highlightPick);
+    createActions();
     // The hidden line style fills the surface with the background colour.
     connect(this, &ZelGLWidget::backgroundColorChanged, this, [this] { markDataChanged(); });
 }
@@ -153,6 +161,7 @@ void BasePlot::draw()
             list.call();
     }
     drawCoordinateSystem();
+    pickHighlight->draw(devicePixelRatioF());
 }
 
 void BasePlot::drawCoordinateSystem()
@@ -168,13 +177,6 @@ void BasePlot::drawCoordinateSystem()
                                                    : faces);
     coordinateSystem->setOccupied({legend->getRectangle(), title->getRectangle()});
     coordinateSystem->draw();
-}
-
-void BasePlot::select()
-{
-    const ModelViewScope matrix;
-    for (const DisplayList& list : selectionLists)
-        list.call();
 }
 
 void BasePlot::applyShading() const
@@ -267,22 +269,6 @@ void BasePlot::updateNormals()
     drawingLists[NormalsList].compile([this] { createNormals(); });
 }
 
-void BasePlot::updateSelection()
-{
-    if (!isSelecting() || !isValid())
-        return;
-    makeCurrent();
-    listContext = context();
-    selectableObjects.clear();
-    glMatrixMode(GL_MODELVIEW);
-    selectionLists[0].compile([this] {
-        selectAdditions();
-        selectData();
-    });
-    selectionCapacity = getNumberSelectedData() + getNumberSelectedAdditions();
-    findObjects(getMousePosition(), getSelectingModifiers());
-}
-
 void BasePlot::removeDataList()
 {
     if (isValid())
@@ -296,39 +282,11 @@ void BasePlot::createAdditions()
         createAddition(*addition);
 }
 
-void BasePlot::selectAdditions()
-{
-    for (Addition* addition : qAsConst(additions))
-        selectAddition(*addition);
-}
-
-int BasePlot::getNumberSelectedAdditions()
-{
-    int count = 0;
-    for (Addition* addition : qAsConst(additions))
-        count += getNumberSelectedAddition(*addition);
-    return count;
-}
-
 void BasePlot::calculateHull() {}
 
 void BasePlot::createData() {}
 
 void BasePlot::createAddition(Addition& /*addition*/) {}
-
-void BasePlot::selectData() {}
-
-void BasePlot::selectAddition(Addition& /*addition*/) {}
-
-int BasePlot::getNumberSelectedData()
-{
-    return 0;
-}
-
-int BasePlot::getNumberSelectedAddition(Addition& /*addition*/)
-{
-    return 0;
-}
 
 Addition* BasePlot::addAddition(Addition& addition)
 {

@@ -12,6 +12,10 @@
 #include <array>
 #include <memory>
 
+class QAction;
+class QMenu;
+class QToolBar;
+
 namespace Zel3D {
 
 class Addition;
@@ -19,6 +23,11 @@ class CoordinateSystem;
 class Data;
 class DataColor;
 class Legend;
+class PickHighlight;
+class PickPass;
+class PickPoints;
+class PlotActions;
+class StyleAction;
 class Title;
 struct EdgeChoice;
 
@@ -65,6 +74,7 @@ public:
     BoxScaling getBoxScaling() const { return boxScaling; }
     bool isAutomaticEdges() const { return automaticEdges; }
     bool isAutomaticFaces() const { return automaticFaces; }
+    bool isPickHighlight() const;
     bool isLogarithmicData(BaseAxisType axis) const { return logarithmicData[std::size_t(axis)]; }
     /// What stands around the data, owned by the plot. Changes show at the next paint; the intervals and
     /// scales of the axes are changed through the plot.
@@ -78,6 +88,22 @@ public:
     ValueXYZ<double> getAutoScaleInverse() const;
     /// Height of the contour plot: the data's maximum z for the top plane, minimum z for the bottom, else 0.
     double getViewProjectionZ() const;
+    /// @}
+
+    /// @name Actions
+    /// @{
+    /// A bar of the plot, made without a parent. The host that places it takes it over, may delete it at any
+    /// time and may delete the plot first; the plot deletes the bars that nobody took. Null for a bar that
+    /// its host has deleted.
+    QToolBar* getToolBar(PlotToolBarType type) const;
+    /// The bars as submenus and the settings; owned by the plot. Null until the subclass has made it.
+    QMenu* getContextMenu() const;
+    /// The exclusive actions of the plot styles, owned by the plot.
+    QList<StyleAction*> getStyleActions() const;
+    /// Check the actions that stand for the grid style and the plot style in force, without choosing them.
+    /// Only needed after changes past the plot's own setters.
+    void updateGridStyleToolBar();
+    void updatePlotStyleToolBar();
     /// @}
 
     /// @name Changing: true when the value changed; the signal named after the property follows
@@ -115,6 +141,8 @@ public:
     /// On: of each face with grid lines and the one opposite to it, the one behind the data shows the lines,
     /// as the view turns. Off, the default: the faces of the grid style.
     bool setAutomaticFaces(bool on);
+    /// On: the picked point is marked in the scene. Off by default.
+    bool setPickHighlight(bool on);
     /// On: the plain values of a direction become decimal exponents while data are loaded, and its scale
     /// logarithmic. Values at or below zero are then missing. Holds from the next load on. No signal of its
     /// own.
@@ -187,7 +215,30 @@ public slots:
     virtual void slotSetAutoScaling(bool on);
     /// Sets the title's text; no repaint.
     virtual void slotSetTitle(const QString& text);
+    /// Opens the settings dialog of a subclass that has one.
+    virtual void slotSettingsDialog();
+    /// Chooses the style of a StyleAction; any other action does nothing.
+    void slotPlotStyleChanged(QAction* action);
+    /// Shows or hides the grid lines of an action's face; repaints on a change.
+    void slotGridStyleChanged(QAction* action);
+    /// Off hides the marker of a visible legend; on makes what can be picked.
+    void slotSelectingChanged(bool on);
+    /// While picking is on, marks the picked height on a visible legend.
+    void slotSelectedObject(const Zel3D::SelectedObjectsInfo& info);
+    /// The standard views: rotations about x and z, in degrees, by (90, 0), (-90, 0), (0, 90), (0, -90),
+    /// (0, 0) and (0, 180).
+    void slotTopView();
+    void slotBottomView();
+    void slotLeftView();
+    void slotRightView();
+    void slotFrontView();
+    void slotBackView();
     void slotSetBoxScaling(Zel3D::BoxScaling scaling);
+    void slotSetPickHighlight(bool on);
+
+protected:
+    /// Checks the action of the plot style in force.
+    virtual void checkStyleActionTriggered();
 
 public:
     /// Switches the kind of container that is drawn; see Data::getDataType().
@@ -210,9 +261,14 @@ protected:
     virtual int getNumberSelectedData();
     virtual int getNumberSelectedAdditions();
     virtual int getNumberSelectedAddition(Addition& addition);
+    /// The points at which selectMarkers() places markers; here none.
+    virtual std::unique_ptr<PickPoints> createPickPoints() const;
     /// Applies the automatic scale or the user's to the view.
     virtual void updateAutoScale();
     virtual ValueXYZ<double> recalculateAutoScale();
+    /// Adds the styles of the subclass with addStyleAction(). The constructor of each subclass calls this,
+    /// createPlotStyleToolBar() and createContextMenu(), in that order.
+    virtual void createPlotStyleActions() = 0;
 
 signals:
     void plotStyleChanged(int style);
@@ -222,6 +278,8 @@ signals:
     void polygonOffsetChanged(double factor);
     void shadingStyleChanged(Zel3D::ShadingStyle style);
     void viewProjectionChanged(Zel3D::ViewProjection projection);
+    /// For hosts and dialogs; the plot itself never emits it.
+    void plotStyleToolBarChanged(const QList<QAction*>& actions);
     void meshSmoothChanged(bool on);
     void meshColorChanged(const QColor& color);
     void meshLineWidthChanged(double pixels);
@@ -234,22 +292,40 @@ signals:
     void dotSmoothChanged(bool on);
     /// For hosts and dialogs; the plot itself never emits it.
     void autoScalingChanged(bool on);
+    /// For hosts and dialogs; the plot itself never emits it.
+    void legendPositionChanged(unsigned int position);
     void minorIntervalChanged(unsigned int count);
     void majorIntervalChanged(unsigned int count);
     void axesScaleChanged(Zel3D::ScaleType scale);
     void boxScalingChanged(Zel3D::BoxScaling scaling);
     void automaticEdgesChanged(bool on);
     void automaticFacesChanged(bool on);
-    /// For hosts and dialogs; the plot itself never emits it.
-    void legendPositionChanged(unsigned int position);
+    void pickHighlightChanged(bool on);
 
 protected:
     void initializeGL() override;
     void paintGL() override;
+    int prepareSelection(const QPointF& position) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
+    void createViewsToolBar();
+    void createGridStyleToolBar();
+    void createPlotStyleToolBar();
+    void createContextMenu();
+    /// The action of one plot style, owned by the plot; \a icon is a path, \a label the translated text.
+    StyleAction* addStyleAction(int style, const QString& icon, const QString& label);
     BasePlotSettings& settingsRecord() { return *settings; }
     Addition* heldStyleAddition() { return styleAddition.get(); }
+    /// For selectData() and selectAddition(): a pick sends a copy of the marker at every pick point that may
+    /// lie under the cursor, each under a name of its own. The second marks the points' projections onto the
+    /// plane of the contour plot.
+    void selectMarkers(const Addition& marker);
+    void selectProjections(const Addition& marker);
+    /// For checks: a pick sends what is far from the cursor, too, and must find the same.
+    void setPickEverything(bool on);
+    /// Forgets what can be picked; for when the data go.
+    void clearPickPoints();
     /// Not owned; null for none.
     void setData(Data* container);
     /// The data's box, or the fixed box when that is usable; zero where the data has no finite extent.
@@ -258,6 +334,8 @@ protected:
     bool canDrawData() const;
     /// The directions whose plain values become exponents while loading.
     const std::array<bool, 3>& getLogarithmicData() const { return logarithmicData; }
+    /// The directions whose values in the plot are exponents.
+    const std::array<bool, 3>& getLoadedLogarithmic() const { return loadedLogarithmic; }
     /// Gives the directions whose kind of values changed since the last load their scale.
     void applyLogarithmicData();
     /// Says once that so many values at or below zero have no exponent.
@@ -265,12 +343,16 @@ protected:
     /// Frees the list of the data and additions; the context is made current.
     void removeDataList();
     /// The geometry is compiled again at the next paint.
-    void markDataChanged() { dataDirty = true; }
+    void markDataChanged() { dataDirty = selectionDirty = true; }
     /// The same, and the normals too: their places or colours changed.
-    void markAllChanged() { dataDirty = normalsDirty = true; }
+    void markAllChanged() { dataDirty = normalsDirty = selectionDirty = true; }
 
 private:
+    void createActions();
+    void repaintLegend();
     void rebuildWhatChanged();
+    void compileSelection();
+    void highlightPick(const SelectedObjectsInfo& info);
     void warnWithoutGradient();
     void applyShading() const;
     void drawCoordinateSystem();
@@ -284,9 +366,12 @@ private:
     std::unique_ptr<DataColor> dataColor;
     std::array<DisplayList, 2> drawingLists; ///< normals; data and additions
     std::array<DisplayList, 1> selectionLists;
+    std::unique_ptr<PickPass> pickPass;
+    std::unique_ptr<PickHighlight> pickHighlight;
     const QGLContext* listContext = nullptr; ///< where the lists live
     bool dataDirty = false;
     bool normalsDirty = false;
+    bool selectionDirty = true;
     bool warnedWithoutGradient = false;
     bool warnedOfLostValues = false;
     std::unique_ptr<Addition> styleAddition;
@@ -308,6 +393,7 @@ private:
     Parallelepiped hull;
     Parallelepiped fixedHull;
     Pair<double> gradientRange;
+    std::unique_ptr<PlotActions> actions;
 };
 
 } // namespace Zel3D

@@ -153,6 +153,7 @@ bool BasePlot::setGridStyle(int faces)
 {
     if (!coordinateSystem->getSettings().setGridStyle(faces))
         return false;
+    updateGridStyleToolBar();
     emit gridStyleChanged(faces);
     return true;
 }
@@ -288,6 +289,7 @@ bool BasePlot::setPlotStyle(int style)
     if (!settings->setStyle(style))
         return false;
     markAllChanged();
+    updatePlotStyleToolBar();
     emit plotStyleChanged(style);
     return true;
 }
@@ -339,8 +341,10 @@ void BasePlot::slotSetBoxScaling(BoxScaling scaling)
 
 void BasePlot::slotSetGridStyle(int faces)
 {
-    if (coordinateSystem->getSettings().setGridStyle(faces))
-        updateGL();
+    if (!coordinateSystem->getSettings().setGridStyle(faces))
+        return;
+    updateGridStyleToolBar();
+    updateGL();
 }
 
 void BasePlot::slotSetTitle(const QString& text)
@@ -381,6 +385,8 @@ void BasePlot::loadSettings()
         setDataColor(dataColor.get());
     }
     markAllChanged();
+    updateGridStyleToolBar();
+    updatePlotStyleToolBar();
 }
 
 } // namespace Zel3D

@@ -66,7 +66,10 @@ bool CylinderAddition::setOpacity(int percent)
 
 Addition* CylinderAddition::clone() const
 {
-    return new CylinderAddition(*this);
+    auto* copy = new CylinderAddition(*this);
+    // Laid out anew, with what the plot holds then.
+    copy->corners.clear();
+    return copy;
 }
 
 void CylinderAddition::begin()
@@ -136,6 +139,26 @@ void CylinderAddition::draw(const QVector3D& p)
         glFrontFace(GLenum(frontFace));
     if (frameVisible)
         drawFrame(p, bottom, top);
+}
+
+bool CylinderAddition::reach(Parallelepiped& box)
+{
+    if (!plot)
+        return true;
+    if (corners.isEmpty())
+        layOut();
+    const auto base = float(baseLevel());
+    box.minimum.setZ(std::min(box.minimum.z(), base));
+    box.maximum.setZ(std::max(box.maximum.z(), base));
+    float aroundX = 0.0F;
+    float aroundY = 0.0F;
+    for (const QPointF& corner : qAsConst(corners)) {
+        aroundX = std::max(aroundX, std::abs(float(corner.x())));
+        aroundY = std::max(aroundY, std::abs(float(corner.y())));
+    }
+    box.minimum -= QVector3D(aroundX, aroundY, 0.0F);
+    box.maximum += QVector3D(aroundX, aroundY, 0.0F);
+    return true;
 }
 
 void CylinderAddition::drawSides(const QVector3D& p, double bottom, double top) const

@@ -48,6 +48,7 @@ public:
     /// Lays out the outline that every bar of a run shares.
     void begin() override;
     void draw(const QVector3D& p) override;
+    bool reach(Parallelepiped& box) override;
 
     /// Writes the keys if a setter changed something; %0 = group.
     void saveSettings(const QString& group, const QString& organization, const QString& application);

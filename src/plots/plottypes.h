@@ -24,8 +24,16 @@ enum BoxScaling {
     ManualScaling = 2 ///< by hand: gestures, keys and setScale()
 };
 
+/// The tool bars that a plot makes; the order is that of the context menu.
+enum PlotToolBarType {
+    GridStyleToolBar = 1, ///< the faces of the box with grid lines
+    PlotStyleToolBar = 2, ///< the plot styles
+    ViewsToolBar = 3      ///< the standard views
+};
+
 } // namespace Zel3D
 
 Q_DECLARE_METATYPE(Zel3D::ShadingStyle)
 Q_DECLARE_METATYPE(Zel3D::ViewProjection)
 Q_DECLARE_METATYPE(Zel3D::BoxScaling)
+Q_DECLARE_METATYPE(Zel3D::PlotToolBarType)

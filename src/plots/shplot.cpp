@@ -30,6 +30,9 @@ SHPlot::SHPlot(const QString& name, const QString& organizationName, const QStri
 {
     setAttribute(Qt::WA_AlwaysShowToolTips);
     setData(gridData.get());
+    SHPlot::createPlotStyleActions();
+    createPlotStyleToolBar();
+    createContextMenu();
 }
 
 SHPlot::~SHPlot() = default;
@@ -42,8 +45,10 @@ bool SHPlot::load(Container* container, const QString& fault, const Fill& fill)
         return false;
     }
     const BusyScope rebuilding(*this);
+    clearPickPoints();
     gridData->clear();
     cellData->clear();
+    givenVertices.clear();
     setData(container);
     applyLogarithmicData();
     bool filled = true;
@@ -115,14 +120,17 @@ bool SHPlot::loadFromData(const QVector<QVector3D>& vertices, const QVector<QVec
 {
     if (!cellData)
         return false;
-    return load(cellData.get(), DataCheck::cells(vertices, cells, stepX, stepY),
-                [&] { cellData->setData(toExponents(vertices), cells, stepX, stepY); });
+    return load(cellData.get(), DataCheck::cells(vertices, cells, stepX, stepY), [&] {
+        cellData->setData(toExponents(vertices), cells, stepX, stepY);
+        givenVertices = vertices;
+    });
 }
 
 void SHPlot::updateDataType(int type)
 {
     if (getData()->getDataType() == type)
         return;
+    clearPickPoints();
     if (type == CellType && cellData) {
         gridData->clear();
         setData(cellData.get());
@@ -136,8 +144,10 @@ void SHPlot::updateDataType(int type)
 void SHPlot::clearData()
 {
     const BusyScope rebuilding(*this);
+    clearPickPoints();
     gridData->clear();
     cellData->clear();
+    givenVertices.clear();
     removeDataList();
     updateNormals();
     updateSelection();

@@ -57,6 +57,16 @@ protected:
     void createData() override;
     void createNormals() override;
     void createAddition(Addition& addition) override;
+    /// What is picked: the markers of the style, or the nodes (vertices) of the surface as points; with a
+    /// contour plot their projections, too.
+    void selectData() override;
+    void selectAddition(Addition& addition) override;
+    int getNumberSelectedData() override;
+    int getNumberSelectedAddition(Addition& addition) override;
+    void selectViewProjection();
+    int getNumberSelectedViewProjection() const;
+    std::unique_ptr<PickPoints> createPickPoints() const override;
+    void createPlotStyleActions() override;
 
     void createGridData();
     void createCellData();
@@ -86,10 +96,15 @@ private:
     void drawCellSurface(int style);
     void drawCellMesh();
     bool cellIsWhole(const QVector<unsigned int>& cell) const;
+    /// Calls \a use with the marker by which the data are picked, if there is one.
+    template <class Use>
+    void withPickMarker(const Use& use);
+    int countPickPoints() const;
     void drawNormal(ArrowAddition& arrow, const QVector3D& p, const QVector3D& normal, double length) const;
 
     std::unique_ptr<GridData> gridData;
     std::unique_ptr<CellData> cellData;
+    QVector<QVector3D> givenVertices; ///< of the cells, as the caller gave them
     ColumnColors gridColors;
 };
 

@@ -3,9 +3,6 @@
 #include "plots/spectrum.h"
 
 #include "plots/datacheck.h"
-#include "plots/styleaction.h"
-
-#include <QIcon>
 
 #include <limits>
 #include <new>
@@ -27,28 +24,20 @@ Spectrum::Spectrum(const QString& name, const QString& organizationName, const Q
     : BasePlot(name, organizationName, applicationName, parent, shareWidget, flags),
       spectrumData(std::make_unique<SpectrumData>())
 {
-    createPlotStyleActions();
+    Spectrum::createPlotStyleActions();
+    createPlotStyleToolBar();
+    createContextMenu();
 }
 
 Spectrum::~Spectrum() = default;
 
 void Spectrum::createPlotStyleActions()
 {
-    if (!styleActions.isEmpty())
-        return;
-    const struct
-    {
-        QString label;
-        const char* icon;
-    } styles[] = {{tr("No plot"), "noplot"},
-                  {tr("Points"), "points"},
-                  {tr("Lines"), "spectrum"},
-                  {tr("Filled"), "spectrumfilled"},
-                  {tr("Filled and frame"), "spectrumframe"}};
-    for (const auto& style : styles) {
-        const QIcon icon(QString(":/plot/images/%1.svg").arg(QLatin1String(style.icon)));
-        styleActions.append(new StyleAction(styleActions.size(), icon, style.label, this));
-    }
+    addStyleAction(0, ":/plot/images/noplot.svg", tr("No plot"));
+    addStyleAction(1, ":/plot/images/points.svg", tr("Points"));
+    addStyleAction(2, ":/plot/images/spectrum.svg", tr("Lines"));
+    addStyleAction(3, ":/plot/images/spectrumfilled.svg", tr("Filled"));
+    addStyleAction(4, ":/plot/images/spectrumframe.svg", tr("Filled and frame"));
 }
 
 SpectrumData::Map Spectrum::toExponents(const SpectrumData::Map& spectra, BaseAxisType axis, int& lost) const
@@ -96,6 +85,7 @@ bool Spectrum::loadFromData(const std::map<double, std::map<double, double>>& sp
         return false;
     }
     const BusyScope rebuilding(*this);
+    clearPickPoints();
     spectrumData->clear();
     setData(spectrumData.get());
     applyLogarithmicData();
@@ -115,6 +105,7 @@ void Spectrum::updateDataType(int type)
 {
     if (!getData() || getData() != spectrumData.get() || type == getData()->getDataType())
         return;
+    clearPickPoints();
     spectrumData->clear();
     markAllChanged();
 }
@@ -122,6 +113,7 @@ void Spectrum::updateDataType(int type)
 void Spectrum::clearData()
 {
     const BusyScope rebuilding(*this);
+    clearPickPoints();
     spectrumData->clear();
     setData(nullptr);
     removeDataList();

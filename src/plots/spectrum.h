@@ -9,8 +9,6 @@
 
 namespace Zel3D {
 
-class StyleAction;
-
 /// The plot widget for families of spectra: curves that stand side by side like the pages of an open book.
 ///
 /// Plot styles: 0 no plot, 1 points, 2 lines, 3 filled, 4 filled and frame; -1 is the style addition alone. A
@@ -54,10 +52,7 @@ public:
     void clearData() override;
 
 protected:
-    /// Makes the actions of the plot styles, once.
-    void createPlotStyleActions();
-    const QList<StyleAction*>& getStyleActions() const { return styleActions; }
-
+    void createPlotStyleActions() override;
     void calculateHull() override;
     void createData() override;
     void createNormals() override; ///< spectra have none
@@ -103,7 +98,6 @@ private:
     std::vector<double> stopLevels() const;
 
     std::unique_ptr<SpectrumData> spectrumData;
-    QList<StyleAction*> styleActions;
 };
 
 template <class Visit>

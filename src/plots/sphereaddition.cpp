@@ -2,6 +2,8 @@
 
 #include "view/glscopes.h"
 
+#include <cmath>
+
 namespace Zel3D {
 
 SphereAddition::SphereAddition(double sceneUnits, const QColor& fixedColor, int sliceCount, int stackCount)
@@ -33,6 +35,14 @@ void SphereAddition::draw(const QVector3D& p)
     const Quadric quadric(GLU_FILL);
     sendColor(color);
     gluSphere(quadric.get(), radius, slices, stacks);
+}
+
+bool SphereAddition::reach(Parallelepiped& box)
+{
+    const float around = std::abs(float(radius));
+    box.minimum -= QVector3D(around, around, around);
+    box.maximum += QVector3D(around, around, around);
+    return true;
 }
 
 } // namespace Zel3D

@@ -22,6 +22,7 @@ public:
 
     Addition* clone() const override;
     void draw(const QVector3D& p) override;
+    bool reach(Parallelepiped& box) override;
 
 private:
     double radius;

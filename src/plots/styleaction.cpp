@@ -8,6 +8,7 @@ StyleAction::StyleAction(int plotStyle, const QIcon& icon, const QString& label,
     setCheckable(true);
     setToolTip(label);
     setStatusTip(label);
+    setMenuRole(QAction::NoRole);
 }
 
 } // namespace Zel3D

@@ -12,6 +12,8 @@
 #include <QPointF>
 #include <QVector>
 
+#include <array>
+
 class QTimer;
 
 namespace Zel3D {
@@ -247,6 +249,15 @@ protected:
     /// Where the mouse was last, in logical pixels.
     const QPointF& getMousePosition() const { return mousePosition; }
 
+    /// The object that the last pick found, as its OpenGL selection name; 0 for none.
+    int getPickedName() const { return pickedName; }
+    /// The matrix that a pick at a position (logical pixels) sees the scene through, model-view included, in
+    /// OpenGL's column order. Needs the widget's context.
+    std::array<double, 16> pickMatrix(const QPointF& position);
+    /// Called before the scene is drawn for a pick, with the widget's context current: how many objects it
+    /// will send, at most. Here: the selection capacity.
+    virtual int prepareSelection(const QPointF& position);
+
     /// From OpenGL selection name to the record of the object, filled by derived plots.
     QHash<int, SelectedObjectsInfo> selectableObjects;
     /// Number of objects that one pick can report.
@@ -256,6 +267,7 @@ private:
     void autoRotationStep();
     void drawScene();
     void drawInfo();
+    void setPickCamera(const QPointF& position);
     SelectedObjectsInfo pick(const QPointF& position);
     void reportSelection(const QPointF& position, const SelectedObjectsInfo& info);
     ViewPose pose() const;
@@ -283,6 +295,7 @@ private:
     QTimer* autoRotationTimer = nullptr;
     QElapsedTimer frameClock;
     int frameCounter = 0;
+    int pickedName = 0;
     bool initialized = false;
     bool busy = false;
     bool scalingAllowed = true;

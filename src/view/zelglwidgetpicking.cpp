@@ -21,22 +21,14 @@ void ZelGLWidget::findObjects(const QPointF& position, Qt::KeyboardModifiers mod
     if (!selecting)
         return;
     SelectedObjectsInfo info;
+    pickedName = 0;
     if (modifiers == selectingModifiers && isValid())
         info = pick(position);
     reportSelection(position, info);
 }
 
-SelectedObjectsInfo ZelGLWidget::pick(const QPointF& position)
+void ZelGLWidget::setPickCamera(const QPointF& position)
 {
-    if (!isContextCurrent())
-        makeCurrent();
-    std::vector<unsigned int> buffer(wordsPerHit * std::size_t(qMax(selectionCapacity, 0)));
-    glSelectBuffer(int(buffer.size()), buffer.data());
-    glRenderMode(GL_SELECT);
-    glInitNames();
-
-    glMatrixMode(GL_PROJECTION);
-    glPushMatrix();
     glLoadIdentity();
     std::array<int, 4> viewport{};
     glGetIntegerv(GL_VIEWPORT, viewport.data());
@@ -44,13 +36,49 @@ SelectedObjectsInfo ZelGLWidget::pick(const QPointF& position)
     gluPickMatrix(position.x() * ratio, viewport[3] - position.y() * ratio, pickSize, pickSize,
                   viewport.data());
     orthoGL();
+}
+
+std::array<double, 16> ZelGLWidget::pickMatrix(const QPointF& position)
+{
+    std::array<double, 16> modelview{};
+    glGetDoublev(GL_MODELVIEW_MATRIX, modelview.data());
+    glMatrixMode(GL_PROJECTION);
+    glPushMatrix();
+    setPickCamera(position);
+    glMultMatrixd(modelview.data());
+    std::array<double, 16> combined{};
+    glGetDoublev(GL_PROJECTION_MATRIX, combined.data());
+    glPopMatrix();
+    return combined;
+}
+
+int ZelGLWidget::prepareSelection(const QPointF& /*position*/)
+{
+    return selectionCapacity;
+}
+
+SelectedObjectsInfo ZelGLWidget::pick(const QPointF& position)
+{
+    if (!isContextCurrent())
+        makeCurrent();
+    std::vector<unsigned int> buffer(wordsPerHit * std::size_t(qMax(prepareSelection(position), 0)));
+    glSelectBuffer(int(buffer.size()), buffer.data());
+    glRenderMode(GL_SELECT);
+    glInitNames();
+
+    glMatrixMode(GL_PROJECTION);
+    glPushMatrix();
+    setPickCamera(position);
     select();
     glMatrixMode(GL_PROJECTION);
     glPopMatrix();
 
     const int hits = glRenderMode(GL_RENDER);
     const QList<SelectionInfo> list = getSelectedList(hits, buffer.data(), false);
-    return list.isEmpty() ? SelectedObjectsInfo() : selectableObjects.value(list.first().id);
+    if (list.isEmpty() || !selectableObjects.contains(list.first().id))
+        return {};
+    pickedName = list.first().id;
+    return selectableObjects.value(pickedName);
 }
 
 void ZelGLWidget::reportSelection(const QPointF& position, const SelectedObjectsInfo& info)

@@ -8,6 +8,8 @@
 
 #include <GL/gl.h>
 
+#include <QMenu>
+#include <QToolBar>
 #include <QtTest>
 
 #include <cmath>
@@ -36,9 +38,7 @@ public:
         getLegend().setVisible(false);
     }
     using Spectrum::calculateHull;
-    using Spectrum::createPlotStyleActions;
     using Spectrum::drawPolygon;
-    using Spectrum::getStyleActions;
     using Spectrum::settingsRecord;
     using Spectrum::visitPoints;
 };
@@ -607,13 +607,15 @@ void TestSpectrum::logarithmicDirections()
 void TestSpectrum::styleActions()
 {
     SpectrumPlot plot;
-    plot.createPlotStyleActions(); // a second call adds none
     QStringList found;
-    for (const StyleAction* action : plot.getStyleActions()) {
-        QVERIFY(action->isCheckable() && action->toolTip() == action->text());
+    for (const StyleAction* action : plot.getStyleActions())
         found.append(QString("%1 %2").arg(action->getStyle()).arg(action->text()));
-    }
     QCOMPARE(found.join("; "), QString("0 No plot; 1 Points; 2 Lines; 3 Filled; 4 Filled and frame"));
+    QCOMPARE(plot.getToolBar(PlotStyleToolBar)->actions().size(), 5);
+    QVERIFY(plot.getContextMenu());
+    QVERIFY(harness::show(plot, 50, 50));
+    plot.getStyleActions().at(3)->trigger();
+    QCOMPARE(plot.getSettings().getStyle(), 3);
 }
 
 void TestSpectrum::barsWithoutASpacing()

@@ -1,0 +1,142 @@
+// Picking: what is sent in the selection pass, and the mark of the picked point.
+
+#include "plots/addition.h"
+#include "plots/baseplot.h"
+#include "plots/baseplotsettings.h"
+#include "plots/pickhighlight.h"
+#include "plots/pickpass.h"
+#include "view/glmode.h"
+#include "view/glscopes.h"
+
+namespace Zel3D {
+
+void BasePlot::updateSelection()
+{
+    // Made by the next pick, if not now.
+    selectionDirty = true;
+    if (!isSelecting() || !isValid())
+        return;
+    makeCurrent();
+    compileSelection();
+    findObjects(getMousePosition(), getSelectingModifiers());
+}
+
+void BasePlot::compileSelection()
+{
+    selectionDirty = false;
+    listContext = context();
+    selectableObjects.clear();
+    pickPass->setPoints(createPickPoints());
+    glMatrixMode(GL_MODELVIEW);
+    selectionLists[0].compile([this] {
+        selectAdditions();
+        selectData();
+    });
+    selectionCapacity = getNumberSelectedData() + getNumberSelectedAdditions();
+}
+
+int BasePlot::prepareSelection(const QPointF& position)
+{
+    // A pick sees what the next frame will show.
+    if (!isBusy())
+        rebuildWhatChanged();
+    if (selectionDirty)
+        compileSelection();
+    const int others = selectionCapacity - pickPass->size();
+    return others + pickPass->find(PickVolume(pickMatrix(position)));
+}
+
+void BasePlot::select()
+{
+    const ModelViewScope matrix;
+    for (const DisplayList& list : selectionLists)
+        list.call();
+    const GLMode offset(GL_POLYGON_OFFSET_FILL, true, false);
+    const GLMode smooth(GL_LINE_SMOOTH, settings->getMesh().isSmooth(), false);
+    pickPass->send(selectableObjects);
+}
+
+void BasePlot::selectMarkers(const Addition& marker)
+{
+    pickPass->addMarkers(marker, selectableObjects.size());
+}
+
+void BasePlot::selectProjections(const Addition& marker)
+{
+    pickPass->addProjections(marker, getViewProjectionZ(), selectableObjects.size());
+}
+
+void BasePlot::setPickEverything(bool on)
+{
+    pickPass->setEverything(on);
+}
+
+void BasePlot::clearPickPoints()
+{
+    pickPass->clear();
+    selectableObjects.clear();
+    selectionDirty = true;
+}
+
+std::unique_ptr<PickPoints> BasePlot::createPickPoints() const
+{
+    return nullptr;
+}
+
+void BasePlot::selectAdditions()
+{
+    for (Addition* addition : qAsConst(additions))
+        selectAddition(*addition);
+}
+
+int BasePlot::getNumberSelectedAdditions()
+{
+    int count = 0;
+    for (Addition* addition : qAsConst(additions))
+        count += getNumberSelectedAddition(*addition);
+    return count;
+}
+
+void BasePlot::selectData() {}
+
+void BasePlot::selectAddition(Addition& /*addition*/) {}
+
+int BasePlot::getNumberSelectedData()
+{
+    return 0;
+}
+
+int BasePlot::getNumberSelectedAddition(Addition& /*addition*/)
+{
+    return 0;
+}
+
+bool BasePlot::isPickHighlight() const
+{
+    return pickHighlight->isVisible();
+}
+
+bool BasePlot::setPickHighlight(bool on)
+{
+    if (!pickHighlight->setVisible(on))
+        return false;
+    emit pickHighlightChanged(on);
+    return true;
+}
+
+void BasePlot::slotSetPickHighlight(bool on)
+{
+    if (isInitialized() && setPickHighlight(on))
+        updateGL();
+}
+
+void BasePlot::highlightPick(const SelectedObjectsInfo& info)
+{
+    QVector3D place;
+    const bool found = info.valid && pickPass->position(getPickedName(), place);
+    // A turning view repaints anyway.
+    if ((found ? pickHighlight->show(place) : pickHighlight->hide()) && isInitialized() && !isAutoRotating())
+        update();
+}
+
+} // namespace Zel3D
