@@ -228,9 +228,8 @@ std::unique_ptr<Candidate> makeLibrary(bool multisampling)
     return std::make_unique<Library>(multisampling);
 }
 
-bool show(Candidate& candidate)
+bool show(QGLWidget& widget)
 {
-    QGLWidget& widget = candidate.widget();
     widget.resize(800, 600);
     widget.show();
     QElapsedTimer clock;

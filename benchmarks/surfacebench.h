@@ -46,8 +46,12 @@ std::unique_ptr<Candidate> makeFloor(bool multisampling);
 /// The library's surface plot.
 std::unique_ptr<Candidate> makeLibrary(bool multisampling);
 
-/// Shows the candidate's window and waits for it.
-bool show(Candidate& candidate);
+/// Shows a window of 800 by 600 and waits for it.
+bool show(QGLWidget& widget);
+inline bool show(Candidate& candidate)
+{
+    return show(candidate.widget());
+}
 
 /// Starts the program again with malloc told to keep its memory, unless that was done: the software renderer
 /// otherwise gives memory back and faults it in again at some sizes, which can double a frame.

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace Zel3D {
 
@@ -32,6 +33,17 @@ void SpectrumData::setData(const Map& data)
 {
     if (&data != &spectrum)
         spectrum = data;
+    computeBox();
+}
+
+void SpectrumData::setData(Map&& data)
+{
+    spectrum = std::move(data);
+    computeBox();
+}
+
+void SpectrumData::computeBox()
+{
     Range outer;
     Range inner;
     Range height;

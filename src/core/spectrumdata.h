@@ -29,6 +29,7 @@ public:
     /// Along the inner key the box always contains the outer key of the first spectrum that is not empty,
     /// too. What has no value at all runs from +infinity to -infinity.
     void setData(const Map& data);
+    void setData(Map&& data);
     const Map& getSpectrum() const { return spectrum; }
 
     void clear() override;
@@ -40,6 +41,8 @@ public:
     unsigned int rows() const { return 0; }
 
 private:
+    void computeBox();
+
     BaseAxisType axis = XAxis;
     Map spectrum;
 };

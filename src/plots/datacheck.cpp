@@ -99,4 +99,21 @@ QString cells(const QVector<QVector3D>& vertices, const QVector<QVector<unsigned
     return steps(stepX, stepY);
 }
 
+QString spectra(const SpectrumData::Map& spectra, BaseAxisType axis)
+{
+    if (axis != XAxis && axis != YAxis)
+        return QString("spectra stand along x or y, not along axis %1").arg(int(axis));
+    for (const auto& [position, values] : spectra) {
+        if (!std::isfinite(position))
+            return QString("the position of a spectrum is %1, not a finite number").arg(position);
+        for (const auto& value : values) {
+            if (!std::isfinite(value.first))
+                return QString("spectrum %1 has a point at %2, not at a finite number")
+                    .arg(position)
+                    .arg(value.first);
+        }
+    }
+    return QString();
+}
+
 } // namespace Zel3D::DataCheck

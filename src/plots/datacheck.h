@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/export.h"
+#include "core/spectrumdata.h"
 
 #include <QString>
 #include <QVector3D>
@@ -21,6 +21,8 @@ QString points(const QVector3D* const* nodes, unsigned int columns, unsigned int
 /// Vertices and cells that name them.
 QString cells(const QVector<QVector3D>& vertices, const QVector<QVector<unsigned int>>& cells, double stepX,
               double stepY);
+/// Spectra: the keys must be finite and the axis horizontal.
+QString spectra(const SpectrumData::Map& spectra, BaseAxisType axis);
 
 } // namespace DataCheck
 

@@ -1,0 +1,131 @@
+// Life, loading and the box of the spectrum plot.
+
+#include "plots/spectrum.h"
+
+#include "plots/datacheck.h"
+
+#include <limits>
+#include <new>
+
+namespace Zel3D {
+
+namespace {
+
+/// NaN for what has no exponent.
+double exponentOf(double value)
+{
+    return value > 0.0 ? std::log10(value) : std::numeric_limits<double>::quiet_NaN();
+}
+
+} // namespace
+
+Spectrum::Spectrum(const QString& name, const QString& organizationName, const QString& applicationName,
+                   QWidget* parent, const QGLWidget* shareWidget, Qt::WindowFlags flags)
+    : BasePlot(name, organizationName, applicationName, parent, shareWidget, flags),
+      spectrumData(std::make_unique<SpectrumData>())
+{
+    Spectrum::createPlotStyleActions();
+    createPlotStyleToolBar();
+    createContextMenu();
+}
+
+Spectrum::~Spectrum() = default;
+
+void Spectrum::createPlotStyleActions()
+{
+    addStyleAction(0, ":/plot/images/noplot.svg", tr("No plot"));
+    addStyleAction(1, ":/plot/images/points.svg", tr("Points"));
+    addStyleAction(2, ":/plot/images/spectrum.svg", tr("Lines"));
+    addStyleAction(3, ":/plot/images/spectrumfilled.svg", tr("Filled"));
+    addStyleAction(4, ":/plot/images/spectrumframe.svg", tr("Filled and frame"));
+}
+
+SpectrumData::Map Spectrum::toExponents(const SpectrumData::Map& spectra, BaseAxisType axis, int& lost) const
+{
+    const std::array<bool, 3>& directions = getLogarithmicData();
+    const bool outer = directions[std::size_t(axis)];
+    const bool inner = directions[std::size_t(axis == XAxis ? YAxis : XAxis)];
+    const bool height = directions[ZAxis];
+    if (!outer && !inner && !height)
+        return spectra;
+    SpectrumData::Map converted;
+    for (const auto& [position, values] : spectra) {
+        const double place = outer ? exponentOf(position) : position;
+        Values* kept = std::isfinite(place) ? &converted[place] : nullptr;
+        for (const auto& [key, value] : values) {
+            const double point = inner ? exponentOf(key) : key;
+            const double z = height ? exponentOf(value) : value;
+            const bool placed = kept && std::isfinite(point);
+            lost += std::isfinite(value) && !(placed && std::isfinite(z)) ? 1 : 0;
+            // Without a height it stays as a hole; without a place it lies before all others.
+            if (placed)
+                kept->emplace_hint(kept->end(), point, z);
+        }
+    }
+    return converted;
+}
+
+bool Spectrum::loadFromData(const std::map<double, std::map<double, double>>& spectra, BaseAxisType axis)
+{
+    if (!spectrumData)
+        return false;
+    QString fault = DataCheck::spectra(spectra, axis);
+    SpectrumData::Map loaded;
+    int lost = 0;
+    // Copied before anything is cleared: memory may run out, and the map may be the plot's own.
+    if (fault.isEmpty()) {
+        try {
+            loaded = toExponents(spectra, axis, lost);
+        } catch (const std::bad_alloc&) {
+            fault = QStringLiteral("memory ran out");
+        }
+    }
+    if (!fault.isEmpty()) {
+        qWarning("Plot \"%s\": the data were not loaded: %s.", qPrintable(objectName()), qPrintable(fault));
+        return false;
+    }
+    const BusyScope rebuilding(*this);
+    clearPickPoints();
+    spectrumData->clear();
+    setData(spectrumData.get());
+    applyLogarithmicData();
+    spectrumData->setAxis(axis);
+    spectrumData->setData(std::move(loaded));
+    warnOfLostValues(lost);
+    if (spectrumData->isEmpty())
+        setHull(Parallelepiped());
+    updateData();
+    updateNormals();
+    updateSelection();
+    createCoordinateSystem();
+    return true;
+}
+
+void Spectrum::updateDataType(int type)
+{
+    if (!getData() || getData() != spectrumData.get() || type == getData()->getDataType())
+        return;
+    clearPickPoints();
+    spectrumData->clear();
+    markAllChanged();
+}
+
+void Spectrum::clearData()
+{
+    const BusyScope rebuilding(*this);
+    clearPickPoints();
+    spectrumData->clear();
+    setData(nullptr);
+    removeDataList();
+    updateSelection();
+    createCoordinateSystem();
+}
+
+void Spectrum::calculateHull()
+{
+    if (!getData() || getData()->isEmpty())
+        return;
+    setHull(dataBox());
+}
+
+} // namespace Zel3D

@@ -1,0 +1,310 @@
+// What the spectrum plot sends for each plot style: markers, lines, sheets and their frames.
+
+#include "core/datacolor.h"
+#include "core/gradientstops.h"
+#include "core/spectrumbands.h"
+#include "core/tofloat.h"
+#include "plots/addition.h"
+#include "plots/baseplotsettings.h"
+#include "plots/blendscope.h"
+#include "plots/spectrum.h"
+#include "scene/basedraw.h"
+#include "view/glmode.h"
+#include "view/opengl.h"
+
+#include <algorithm>
+
+namespace Zel3D {
+
+namespace {
+
+enum PlotStyle { CustomMarkers = -1, NoPlot = 0, Points = 1, Lines = 2, Filled = 3, FilledAndFrame = 4 };
+
+/// The levels at which the colour jumps, because several stops lie there: a band takes the colours of its own
+/// side.
+class Jumps
+{
+public:
+    explicit Jumps(const std::vector<double>& levels)
+    {
+        for (std::size_t i = 1; i < levels.size(); ++i) {
+            if (levels[i] == levels[i - 1])
+                jumps.push_back(levels[i]);
+        }
+    }
+    /// The height of a corner, moved into the band by the least amount where its edge is a jump.
+    float inside(const SpectrumBands::Band& band, double height) const
+    {
+        const float plain = toFloat(height);
+        if (jumps.empty() || !std::binary_search(jumps.begin(), jumps.end(), height))
+            return plain;
+        if (height == band.lower)
+            return std::nextafter(plain, toFloat(band.upper));
+        return height == band.upper ? std::nextafter(plain, toFloat(band.lower)) : plain;
+    }
+
+private:
+    std::vector<double> jumps;
+};
+
+} // namespace
+
+int Spectrum::markerStep() const
+{
+    return getSettings().getResolution();
+}
+
+int Spectrum::pointStep() const
+{
+    return std::max(getSettings().getResolution(), 1);
+}
+
+void Spectrum::advance(Values::const_iterator& point, const Values& values, int step)
+{
+    for (int i = 0; i < step && point != values.end(); ++i)
+        ++point;
+}
+
+QVector3D Spectrum::place(double outer, double position, double height) const
+{
+    const float a = toFloat(outer);
+    const float b = toFloat(position);
+    return spectrumData->getAxis() == YAxis ? QVector3D(b, a, toFloat(height))
+                                            : QVector3D(a, b, toFloat(height));
+}
+
+// Calls visit(from, to) for neighbouring points of the thinned curve; holes interrupt it.
+template <class Visit>
+void Spectrum::visitPairs(const Values& values, const Visit& visit) const
+{
+    const int step = pointStep();
+    bool started = false;
+    CurvePoint from;
+    for (auto point = values.begin(); point != values.end(); advance(point, values, step)) {
+        const CurvePoint to{point->first, point->second};
+        const bool whole = std::isfinite(to.height);
+        if (started && whole)
+            visit(from, to);
+        from = to;
+        started = whole;
+    }
+}
+
+void Spectrum::sendColor(const QVector3D& p) const
+{
+    const QColor color = (*getDataColor())(p);
+    glColor4d(color.redF(), color.greenF(), color.blueF(), color.alphaF());
+}
+
+void Spectrum::sendPoint(const QVector3D& p) const
+{
+    sendColor(p);
+    glVertex3d(double(p.x()), double(p.y()), double(p.z()));
+}
+
+void Spectrum::createData()
+{
+    if (getData() && getData() == spectrumData.get())
+        createSpectrumData();
+}
+
+void Spectrum::createNormals() {}
+
+void Spectrum::createAddition(Addition& addition)
+{
+    if (!getData() || addition.type() != 0)
+        return;
+    const GLMode offset(GL_POLYGON_OFFSET_FILL, true, false);
+    glPolygonOffset(float(getSettings().getPolygonOffset()), 1.0F);
+    const GLMode smooth(GL_LINE_SMOOTH, getSettings().getMesh().isSmooth(), false);
+    const BlendScope blending;
+    addition.setPlot(*this);
+    addition.drawBegin();
+    visitPoints([&](const QVector3D& p) { addition.draw(p); });
+    addition.drawEnd();
+}
+
+void Spectrum::createSpectrumData()
+{
+    const int style = getSettings().getStyle();
+    if (!canDrawData() || style == NoPlot)
+        return;
+    if (style == CustomMarkers) {
+        if (heldStyleAddition())
+            createAddition(*heldStyleAddition());
+        return;
+    }
+    if (style == Points) {
+        createAddition(settingsRecord().getDot());
+        return;
+    }
+    const GLMode offset(GL_POLYGON_OFFSET_FILL, true, false);
+    glPolygonOffset(float(getSettings().getPolygonOffset()), 1.0F);
+    const GLMode smooth(GL_LINE_SMOOTH, getSettings().getMesh().isSmooth(), false);
+    const BlendScope blending;
+    BaseDraw::setGLLineWidth(float(getSettings().getMesh().getLineWidth()));
+    // Spectra have no normals; markers drawn before must not light them with theirs.
+    glNormal3d(0.0, 0.0, 1.0);
+    if (style == Lines) {
+        const SpectrumData::Map& spectra = spectrumData->getSpectrum();
+        for (Entry spectrum = spectra.begin(); spectrum != spectra.end(); ++spectrum)
+            drawLine(spectrum);
+    } else if (style == Filled || style == FilledAndFrame) {
+        const bool oneColor = gradientStops(getDataColor()->getGradient()).size() == 1;
+        for (const SpectrumOrder order : {Ascending, Descending}) {
+            if (oneColor)
+                drawSpectrum(order);
+            else
+                drawGradientSpectrum(order);
+        }
+    }
+}
+
+void Spectrum::drawLine(Entry spectrum)
+{
+    const auto& [outer, values] = *spectrum;
+    const int step = pointStep();
+    bool drawing = false;
+    const auto setDrawing = [&drawing](bool on) {
+        if (on && !drawing)
+            glBegin(GL_LINE_STRIP);
+        if (!on && drawing)
+            glEnd();
+        drawing = on;
+    };
+    for (auto point = values.begin(); point != values.end(); advance(point, values, step)) {
+        setDrawing(std::isfinite(point->second));
+        if (drawing)
+            sendPoint(place(outer, point->first, point->second));
+    }
+    setDrawing(false);
+}
+
+// Culling shows one side of the sheets in each order.
+template <class Draw>
+void Spectrum::drawSheets(SpectrumOrder order, bool clockwise, const Draw& drawOne)
+{
+    const bool frame = getSettings().getStyle() == FilledAndFrame;
+    const SpectrumData::Map& spectra = spectrumData->getSpectrum();
+    const auto draw = [&](Entry spectrum) {
+        drawOne(spectrum);
+        if (frame)
+            drawSpectrumFrame(spectrum);
+    };
+    glEnable(GL_CULL_FACE);
+    glFrontFace(clockwise ? GL_CW : GL_CCW);
+    if (order == Ascending) {
+        for (Entry spectrum = spectra.begin(); spectrum != spectra.end(); ++spectrum)
+            draw(spectrum);
+    } else {
+        for (Entry spectrum = spectra.end(); spectrum != spectra.begin();)
+            draw(--spectrum);
+    }
+    glDisable(GL_CULL_FACE);
+}
+
+void Spectrum::drawSpectrum(SpectrumOrder order)
+{
+    const bool along = spectrumData->getAxis() == YAxis;
+    drawSheets(order, (order == Ascending) == along, [this](Entry spectrum) { drawOneSpectrum(spectrum); });
+}
+
+void Spectrum::drawGradientSpectrum(SpectrumOrder order)
+{
+    const bool along = spectrumData->getAxis() == YAxis;
+    drawSheets(order, (order == Ascending) != along,
+               [this](Entry spectrum) { drawOneGradientSpectrum(spectrum); });
+}
+
+void Spectrum::drawOneSpectrum(Entry spectrum)
+{
+    const double outer = spectrum->first;
+    const auto send = [&](double position, double height) { sendPoint(place(outer, position, height)); };
+    visitPairs(spectrum->second, [&](const CurvePoint& from, const CurvePoint& to) {
+        if (!SpectrumBands::crosses(from, to)) {
+            glBegin(GL_POLYGON);
+            send(from.position, 0.0);
+            send(from.position, from.height);
+            send(to.position, to.height);
+            send(to.position, 0.0);
+            glEnd();
+        } else if (!isZero(from.height - to.height, 0.0)) {
+            const double middle = SpectrumBands::crossing(from, to);
+            glBegin(GL_TRIANGLES);
+            send(from.position, 0.0);
+            send(from.position, from.height);
+            send(middle, 0.0);
+            send(middle, 0.0);
+            send(to.position, to.height);
+            send(to.position, 0.0);
+            glEnd();
+        }
+    });
+}
+
+// In single precision, as the box is, so that the highest point lies at the last level.
+std::vector<double> Spectrum::stopLevels() const
+{
+    const auto bottom = double(getHull().minimum.z());
+    const auto top = double(getHull().maximum.z());
+    std::vector<double> levels;
+    if (!(bottom < top))
+        return levels;
+    for (const QGradientStop& stop : gradientStops(getDataColor()->getGradient()))
+        levels.push_back(double(toFloat(bottom + stop.first * (top - bottom))));
+    return levels;
+}
+
+void Spectrum::drawOneGradientSpectrum(Entry spectrum)
+{
+    const double outer = spectrum->first;
+    const std::vector<double> levels = stopLevels();
+    const SpectrumBands bands(levels);
+    const Jumps jumps(levels);
+    const auto rounded = [](const CurvePoint& p) {
+        return CurvePoint{p.position, double(toFloat(p.height))};
+    };
+    visitPairs(spectrum->second, [&](const CurvePoint& from, const CurvePoint& to) {
+        if (from.height == 0.0 && to.height == 0.0) {
+            glBegin(GL_LINES);
+            sendPoint(place(outer, from.position, 0.0));
+            sendPoint(place(outer, to.position, 0.0));
+            glEnd();
+            return;
+        }
+        bands.cut(rounded(from), rounded(to), [&](const SpectrumBands::Band& band) {
+            glBegin(GL_POLYGON);
+            for (std::size_t i = 0; i < band.count; ++i) {
+                const CurvePoint& corner = band.corners[i];
+                sendPoint(place(outer, corner.position, double(jumps.inside(band, corner.height))));
+            }
+            glEnd();
+        });
+    });
+}
+
+void Spectrum::drawPolygon(const QList<QVector3D>& points)
+{
+    glBegin(GL_POLYGON);
+    for (const QVector3D& p : points)
+        sendPoint(p);
+    glEnd();
+}
+
+void Spectrum::drawSpectrumFrame(Entry spectrum)
+{
+    const double outer = spectrum->first;
+    const auto send = [&](const CurvePoint& point) {
+        const QVector3D p = place(outer, point.position, point.height);
+        glVertex3d(double(p.x()), double(p.y()), double(p.z()));
+    };
+    glColor4d(0.0, 0.0, 0.0, 1.0);
+    glBegin(GL_LINES);
+    visitPairs(spectrum->second, [&](const CurvePoint& from, const CurvePoint& to) {
+        send(from);
+        send(to);
+    });
+    glEnd();
+}
+
+} // namespace Zel3D
