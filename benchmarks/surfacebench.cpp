@@ -193,20 +193,25 @@ private:
 
 } // namespace
 
-Heights::Heights(int nodes, double phase) : count(nodes)
+Heights::Heights(int nodes, const std::function<double(int, int)>& height) : count(nodes)
 {
     const auto size = std::size_t(nodes);
     values.resize(size * size);
     pointers.resize(size);
     for (std::size_t i = 0; i < size; ++i) {
         pointers[i] = &values[i * size];
-        for (std::size_t j = 0; j < size; ++j) {
-            const double x = 2.0 * double(i) / double(size - 1) - 1.0;
-            const double y = 2.0 * double(j) / double(size - 1) - 1.0;
-            pointers[i][j] =
-                0.7 * std::sin(3.0 * x + phase) * std::cos(4.0 * y) + 0.05 * std::sin(40.0 * x * y);
-        }
+        for (std::size_t j = 0; j < size; ++j)
+            pointers[i][j] = height(int(i), int(j));
     }
+}
+
+Heights::Heights(int nodes, double phase)
+    : Heights(nodes, [nodes, phase](int i, int j) {
+          const double x = 2.0 * i / (nodes - 1) - 1.0;
+          const double y = 2.0 * j / (nodes - 1) - 1.0;
+          return 0.7 * std::sin(3.0 * x + phase) * std::cos(4.0 * y) + 0.05 * std::sin(40.0 * x * y);
+      })
+{
     // The extremes are the same at every phase, so that the box of the data is, too.
     values.front() = -1.0;
     values.back() = 1.0;

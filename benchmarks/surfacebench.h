@@ -2,16 +2,20 @@
 
 #include <QGLWidget>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
 namespace bench {
 
-/// Heights of a smooth surface with detail, N by N nodes, and the column pointers that a plot takes.
+/// Heights of N by N nodes, at first of a smooth surface with detail, and the column pointers that a plot
+/// takes.
 class Heights
 {
 public:
     explicit Heights(int nodes, double phase = 0.0);
+    /// Heights given by column and row.
+    Heights(int nodes, const std::function<double(int, int)>& height);
     int size() const { return count; }
     double** columns() { return pointers.data(); }
     double at(int column, int row) const

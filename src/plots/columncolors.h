@@ -39,15 +39,21 @@ public:
 
     const Color& at(int column, int row)
     {
-        if (columns[newest].index != column) {
-            newest = 1 - newest;
-            if (columns[newest].index != column)
-                lookUp(column);
-        }
-        return columns[newest].colors[std::size_t(row / step)];
+        // Asked for each node that a strip sends, the two columns in turn: no division, no state to flip.
+        if (columns[0].index == column)
+            return columns[0].colors[std::size_t(row)];
+        if (columns[1].index != column)
+            lookUp(column);
+        const Column& entry = columns[columns[1].index == column ? 1 : 0];
+        return entry.colors[std::size_t(row)];
     }
 
-    static Color channels(const QColor& c) { return {c.redF(), c.greenF(), c.blueF(), c.alphaF()}; }
+    static Color channels(const QColor& c)
+    {
+        Color result;
+        c.getRgbF(&result[0], &result[1], &result[2], &result[3]);
+        return result;
+    }
 
 private:
     struct Column
@@ -58,13 +64,16 @@ private:
 
     void lookUp(int column)
     {
+        // Strips move on from column to column: the one looked up longer ago is done with.
+        newest = 1 - newest;
         Column& entry = columns[newest];
         entry.index = column;
         const auto rows = int(data->rows());
-        entry.colors.resize(std::size_t((rows + step - 1) / step));
+        entry.colors.resize(std::size_t(rows));
         // In single precision, as the box is: the highest node takes the last colour.
-        for (int row = 0, k = 0; row < rows; row += step, ++k)
-            entry.colors[std::size_t(k)] = channels((*color)(data->valueAt(unsigned(column), unsigned(row))));
+        for (int row = 0; row < rows; row += step)
+            entry.colors[std::size_t(row)] =
+                channels((*color)(data->valueAt(unsigned(column), unsigned(row))));
     }
 
     const GridData* data = nullptr;

@@ -141,6 +141,9 @@ void Label::draw()
         return;
     const PixelTestScope scope;
     calculate();
+    // Sending the transparent picture of a blank costs a tenth of a millisecond and shows nothing.
+    if (settings.isBlank())
+        return;
     const QRect window(viewport[0], viewport[1], viewport[2], viewport[3]);
     if (!placement.visible || !window.intersects(QRect(placement.corner, image.size())))
         return;

@@ -29,6 +29,11 @@ const QStringList sceneSees = {"view/glmode.h", "view/glscopes.h", "view/opengl.
 const QMap<QString, QStringList> upwards = {
     {"core/datacolor.cpp", {"plots/baseplot.h"}},
     {"view/plotstatusbar.cpp", {"plots/baseplot.h"}},
+    {"core/function.cpp", {"plots/shplot.h"}},
+    {"core/gridmapping.cpp", {"plots/shplot.h"}},
+    {"core/parametricsurface.cpp", {"plots/shplot.h"}},
+    {"core/testcelldata.cpp", {"plots/shplot.h"}},
+    {"core/watersurface.cpp", {"plots/shplot.h"}},
 };
 
 QByteArray contents(const QString& path)
