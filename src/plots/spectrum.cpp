@@ -112,6 +112,7 @@ void Spectrum::updateDataType(int type)
 
 void Spectrum::clearData()
 {
+    clearPickPoints();
     const BusyScope rebuilding(*this);
     clearPickPoints();
     spectrumData->clear();

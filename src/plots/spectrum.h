@@ -57,6 +57,12 @@ protected:
     void createData() override;
     void createNormals() override; ///< spectra have none
     void createAddition(Addition& addition) override;
+    /// What is picked: the markers of the style, or the points of lines and sheets.
+    void selectData() override;
+    void selectAddition(Addition& addition) override;
+    int getNumberSelectedData() override;
+    int getNumberSelectedAddition(Addition& addition) override;
+    std::unique_ptr<PickPoints> createPickPoints() const override;
 
     /// Calls \a visit(const QVector3D&) for every point that a marker stands at, in ascending order: each
     /// spectrum's first point and every one a resolution step further, where it is drawn, without holes.
@@ -92,6 +98,10 @@ private:
     template <class Visit>
     void visitPairs(const Values& values, const Visit& visit) const;
     void drawMarkers(Addition* addition);
+    /// Calls \a use with the marker by which the data are picked, if there is one.
+    template <class Use>
+    void withPickMarker(const Use& use);
+    int countPickPoints() const;
     void drawLine(Entry spectrum);
     void sendColor(const QVector3D& p) const;
     void sendPoint(const QVector3D& p) const;

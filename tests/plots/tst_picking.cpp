@@ -6,6 +6,7 @@
 #include "plots/arrowaddition.h"
 #include "plots/dotaddition.h"
 #include "plots/pickpoints.h"
+#include "plots/spectrum.h"
 #include "plots/sphereaddition.h"
 #include "scene/viewframe.h"
 
@@ -27,6 +28,19 @@ namespace {
 
 constexpr int width = 240;
 constexpr int height = 180;
+
+/// Where a point of the scene is drawn, in the widget's pixels.
+QPointF pixelIn(BasePlot& plot, const QVector3D& p)
+{
+    plot.makeCurrent();
+    glMatrixMode(GL_PROJECTION);
+    glPushMatrix();
+    glLoadIdentity();
+    plot.orthoGL();
+    const WindowPoint at = projectToWindow(currentViewFrame(), p);
+    glPopMatrix();
+    return {at.x, plot.height() - at.y};
+}
 
 /// A plot whose picks can be made step by step.
 class PickPlot : public Plot
@@ -56,18 +70,7 @@ public:
         return buffer;
     }
 
-    /// Where a point of the scene is drawn, in the widget's pixels.
-    QPointF pixelOf(const QVector3D& p)
-    {
-        makeCurrent();
-        glMatrixMode(GL_PROJECTION);
-        glPushMatrix();
-        glLoadIdentity();
-        orthoGL();
-        const WindowPoint at = projectToWindow(currentViewFrame(), p);
-        glPopMatrix();
-        return {at.x, this->height() - at.y};
-    }
+    QPointF pixelOf(const QVector3D& p) { return pixelIn(*this, p); }
 
     SelectedObjectsInfo pickAt(const QPointF& position)
     {
@@ -83,6 +86,19 @@ public:
     using SHPlot::getNumberSelectedData;
     using SHPlot::selectableObjects;
     using SHPlot::selectionCapacity;
+};
+
+class PickSpectra : public Spectrum
+{
+public:
+    PickSpectra() : Spectrum("spectra", fixture::organization, fixture::application)
+    {
+        setGradient("ramp", ramp());
+    }
+    QPointF pixelOf(const QVector3D& p) { return pixelIn(*this, p); }
+
+    using Spectrum::getNumberSelectedData;
+    using Spectrum::selectionCapacity;
 };
 
 double hill(int column, int row)
@@ -252,6 +268,41 @@ private slots:
         QCOMPARE(found.y, reported[1]);
         QCOMPARE(found.z, reported[2]);
         QVERIFY(!plot.pickAt({2.0, 2.0}).valid);
+    }
+
+    void spectraArePickedByTheirPoints_data()
+    {
+        QTest::addColumn<bool>("alongX");
+        QTest::newRow("along x") << true;
+        QTest::newRow("along y") << false;
+    }
+    void spectraArePickedByTheirPoints()
+    {
+        QFETCH(const bool, alongX);
+        PickSpectra plot;
+        plot.setPlotStyle(3);
+        plot.setSelecting(true);
+        QVERIFY(harness::show(plot, width, height));
+        plot.loadFromData({{1.1, {{1, 2}, {2, 5}, {3, 4}}}, {2.1, {{1, 3}, {2.3, 0.1}, {3, 2}, {4, 2}}}},
+                          alongX ? XAxis : YAxis);
+        plot.setRotation({30, 0, 20});
+        QCOMPARE(plot.getNumberSelectedData(), 7);
+        QCOMPARE(plot.selectionCapacity, 7);
+        SelectedObjectsInfo found;
+        connect(&plot, &ZelGLWidget::selectedObject, this,
+                [&](const SelectedObjectsInfo& info) { found = info; });
+        const QVector3D drawn = alongX ? QVector3D(2.1F, 2.3F, 0.1F) : QVector3D(2.3F, 2.1F, 0.1F);
+        plot.findObjects(plot.pixelOf(drawn), Qt::NoModifier);
+        QVERIFY(found.valid);
+        QCOMPARE(alongX ? found.x : found.y, 2.1);
+        QCOMPARE(alongX ? found.y : found.x, 2.3);
+        QCOMPARE(found.z, 0.1);
+        plot.setResolution(2);
+        plot.findObjects(plot.pixelOf(drawn), Qt::NoModifier);
+        QVERIFY(!found.valid);
+        QCOMPARE(plot.getNumberSelectedData(), 4);
+        plot.setPlotStyle(0);
+        QCOMPARE(plot.getNumberSelectedData(), 0);
     }
 
     void aPickFollowsWhatChanged()
