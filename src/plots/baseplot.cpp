@@ -6,6 +6,7 @@
 #include "core/datacolor.h"
 #include "plots/addition.h"
 #include "plots/baseplotsettings.h"
+#include "plots/settingsdialogoptions.h"
 #include "scene/coordinatesystem.h"
 #include "scene/facepolicy.h"
 #include "scene/legend.h"

@@ -28,6 +28,7 @@ const QStringList sceneSees = {"view/glmode.h", "view/glscopes.h", "view/opengl.
 /// The arrows that point up, each from a source file alone.
 const QMap<QString, QStringList> upwards = {
     {"core/datacolor.cpp", {"plots/baseplot.h"}},
+    {"plots/shplot.cpp", {"settings/plotsettingsdialog.h"}},
 };
 
 QByteArray contents(const QString& path)
