@@ -16,6 +16,9 @@ namespace Zel3D {
 
 namespace {
 
+/// Short labels leave the editors where they stand on most pages.
+constexpr int fewestLabelLetters = 16;
+
 /// A field that a plot as constructed does not have, or whose value there is not offered, goes back to what
 /// it was when the dialog was opened.
 QVariant usableDefault(const Field& field, const QVariant& asConstructed)
@@ -52,8 +55,7 @@ void AbstractSettingsPage::addBoxes(FieldBinder& binder)
     auto* layout = new QVBoxLayout(this);
     for (int i = 0; i < described.size();) {
         QVector<FieldGroup> together{described.at(i++)};
-        while (i < described.size() && !described.at(i).tab.isEmpty() &&
-               described.at(i).title == together.first().title)
+        while (i < described.size() && !together.first().tab.isEmpty() && !described.at(i).tab.isEmpty())
             together.append(described.at(i++));
         AbstractSettingsGroupBox* box = nullptr;
         if (together.first().tab.isEmpty())
@@ -68,7 +70,7 @@ void AbstractSettingsPage::addBoxes(FieldBinder& binder)
 
 void AbstractSettingsPage::alignLabels()
 {
-    int width = 0;
+    int width = fontMetrics().averageCharWidth() * fewestLabelLetters;
     for (const AbstractSettingsGroupBox* box : qAsConst(boxes)) {
         for (const FieldForm* form : box->getForms())
             width = std::max(width, form->getLabelWidth());

@@ -145,6 +145,7 @@ FontEditor::FontEditor(QWidget* parent)
     family->setMinimumContentsLength(10);
     size->setRange(4, 96);
     size->setSuffix(' ' + tr("pt"));
+    size->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     size->setFocusPolicy(Qt::StrongFocus);
     size->setKeyboardTracking(false);
     size->setAccessibleName(tr("Font size"));

@@ -23,6 +23,8 @@ QString withUnit(const Field& field, double value)
     const QString point(QLocale().decimalPoint());
     while (text.contains(point) && (text.endsWith('0') || text.endsWith(point)))
         text.chop(1);
+    if (field.unit == QStringLiteral("°"))
+        return text + field.unit;
     return field.unit.isEmpty() ? text : text + ' ' + field.unit;
 }
 

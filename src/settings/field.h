@@ -96,8 +96,8 @@ struct VORANPLOT_EXPORT Field
     QVector<Listener> listeners;
 };
 
-/// The fields of one record, shown in one box. Groups of one page with the same title that follow each other
-/// share a box with a tab for each.
+/// The fields of one record, shown in one box. Groups with a tab that follow each other on a page stand on
+/// tabs, those of one tab below each other.
 struct FieldGroup
 {
     QString title;

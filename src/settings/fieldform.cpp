@@ -23,6 +23,7 @@ FieldForm::FieldForm(const QVector<Field>& fields, FieldBinder& fieldBinder, QWi
     : QWidget(parent), binder(fieldBinder), grid(new QGridLayout(this))
 {
     grid->setColumnStretch(EditorColumn, 1);
+    grid->setHorizontalSpacing(fontMetrics().averageCharWidth() * 2);
     QVector<Field> together;
     for (const Field& field : fields) {
         if (!together.isEmpty() && (field.row.isEmpty() || field.row != together.constLast().row)) {
@@ -53,10 +54,13 @@ void FieldForm::addRow(const QVector<Field>& fields)
         auto* editor = new FieldEditor(field.id, binder, this);
         editors.append(editor);
         ids.append(field.id);
-        if (rowLabel)
+        if (rowLabel) {
+            if (line->count() > 0)
+                line->addSpacing(fontMetrics().averageCharWidth());
             line->addWidget(editor->getLabel());
-        else
+        } else {
             rowLabel = editor->getLabel();
+        }
         const bool wide =
             field.slider || field.editor || field.kind == Field::Text || field.kind == Field::Font;
         line->addWidget(editor->getEditor(), wide ? 1 : 0);

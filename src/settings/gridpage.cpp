@@ -13,15 +13,22 @@ struct Plane
     Grid bit;
     const char* id;
     const char* name;
+    const char* row;
 };
 
 constexpr Plane planes[] = {
-    {GridTop, "top", QT_TRANSLATE_NOOP("Zel3D::GridPage", "Top")},
-    {GridBottom, "bottom", QT_TRANSLATE_NOOP("Zel3D::GridPage", "Bottom")},
-    {GridLeft, "left", QT_TRANSLATE_NOOP("Zel3D::GridPage", "Left")},
-    {GridRight, "right", QT_TRANSLATE_NOOP("Zel3D::GridPage", "Right")},
-    {GridFront, "front", QT_TRANSLATE_NOOP("Zel3D::GridPage", "Front")},
-    {GridBack, "back", QT_TRANSLATE_NOOP("Zel3D::GridPage", "Back")},
+    {GridTop, "top", QT_TRANSLATE_NOOP("Zel3D::GridPage", "Top"),
+     QT_TRANSLATE_NOOP("Zel3D::GridPage", "Horizontal")},
+    {GridBottom, "bottom", QT_TRANSLATE_NOOP("Zel3D::GridPage", "Bottom"),
+     QT_TRANSLATE_NOOP("Zel3D::GridPage", "Horizontal")},
+    {GridLeft, "left", QT_TRANSLATE_NOOP("Zel3D::GridPage", "Left"),
+     QT_TRANSLATE_NOOP("Zel3D::GridPage", "Sides")},
+    {GridRight, "right", QT_TRANSLATE_NOOP("Zel3D::GridPage", "Right"),
+     QT_TRANSLATE_NOOP("Zel3D::GridPage", "Sides")},
+    {GridFront, "front", QT_TRANSLATE_NOOP("Zel3D::GridPage", "Front"),
+     QT_TRANSLATE_NOOP("Zel3D::GridPage", "Depth")},
+    {GridBack, "back", QT_TRANSLATE_NOOP("Zel3D::GridPage", "Back"),
+     QT_TRANSLATE_NOOP("Zel3D::GridPage", "Depth")},
 };
 
 QVector<Field::Offer> lineStyles()
@@ -41,6 +48,7 @@ QVector<Field> planeFields(BasePlot& plot)
         const int bit = plane.bit;
         fields.append(Field::toggle(QString("grid/%1").arg(plane.id), GridPage::tr(plane.name),
                                     GridPage::tr("Whether this plane of the box shows grid lines."))
+                          .inRow(GridPage::tr(plane.row))
                           .bind([&record, bit] { return (record.getGridStyle() & bit) != 0; },
                                 [&plot, &record, bit](bool on) {
                                     const int others = record.getGridStyle() & ~bit;

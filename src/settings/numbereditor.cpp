@@ -72,7 +72,7 @@ NumberEditor::NumberEditor(const Field& field, QWidget* parent)
     box->setAccelerated(true);
     shown = inTheBox = box->value();
     if (!field.unit.isEmpty())
-        box->setSuffix(field.unit == QLatin1String("°") ? field.unit : ' ' + field.unit);
+        box->setSuffix(field.unit == QStringLiteral("°") ? field.unit : ' ' + field.unit);
     connect(box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, &NumberEditor::stepBox);
     if (!field.slider) {
         arrange({box});

@@ -1,9 +1,11 @@
 #include "settings/plotsettingsdialog.h"
 
 #include "plots/baseplot.h"
+#include "settings/axespage.h"
 #include "settings/commonpage.h"
 #include "settings/gridpage.h"
 #include "settings/legendpage.h"
+#include "settings/lightingpage.h"
 #include "settings/plotstylepage.h"
 #include "settings/scalespage.h"
 #include "settings/titlepage.h"
@@ -44,9 +46,14 @@ PlotSettingsDialog::PlotSettingsDialog(const SettingsDialogOptions* options, con
 QVector<SettingsPageEntry> PlotSettingsDialog::libraryPages()
 {
     return {
-        entry<CommonPage>("common", tr("Common")), entry<TitlePage>("title", tr("Title")),
-        entry<GridPage>("grid", tr("Grid")),       entry<ScalesPage>("scales", tr("Scales")),
-        entry<LegendPage>("legend", tr("Legend")), entry<PlotStylePage>("plotstyle", tr("Plot style")),
+        entry<CommonPage>("common", tr("Common")),
+        entry<TitlePage>("title", tr("Title")),
+        entry<GridPage>("grid", tr("Grid")),
+        entry<AxesPage>("axes", tr("Axes")),
+        entry<ScalesPage>("scales", tr("Scales")),
+        entry<LegendPage>("legend", tr("Legend")),
+        entry<LightingPage>("lighting", tr("Lighting")),
+        entry<PlotStylePage>("plotstyle", tr("Plot style")),
     };
 }
 

@@ -36,6 +36,10 @@ namespace {
 constexpr int refreshMilliseconds = 200;
 constexpr int mostResults = 12;
 
+// Heights of the dialog, in lines of text.
+constexpr int leastLines = 12;
+constexpr int usualLines = 40;
+
 } // namespace
 
 PlotSettingsDialogBase::PlotSettingsDialogBase(const QVector<SettingsPageEntry>& entries,
@@ -129,7 +133,8 @@ QWidget* PlotSettingsDialogBase::makeHead()
 {
     auto* head = new QWidget(this);
     auto* layout = new QHBoxLayout(head);
-    layout->setContentsMargins(0, 0, 0, 0);
+    // In line with the boxes of the pages.
+    layout->setContentsMargins(style()->pixelMetric(QStyle::PM_LayoutLeftMargin), 0, 0, 0);
     QFont font = title->font();
     font.setBold(true);
     title->setFont(font);
@@ -208,15 +213,26 @@ void PlotSettingsDialogBase::addSearchEntries(const QString& pageTitle, int page
 
 void PlotSettingsDialogBase::fitSide()
 {
-    const int icon = list->fontMetrics().height() * 3 / 2;
-    list->setIconSize({icon, icon});
+    const int line = list->fontMetrics().height();
+    list->setIconSize({line * 3 / 2, line * 3 / 2});
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    const int text = list->sizeHintForColumn(0);
-    list->setFixedWidth(text + 2 * list->frameWidth() + list->verticalScrollBar()->sizeHint().width());
+    int titles = 0;
+    for (int i = 0; i < list->count(); ++i) {
+        list->item(i)->setSizeHint({0, line * 2});
+        titles = std::max(titles, list->fontMetrics().horizontalAdvance(list->item(i)->text()));
+    }
+    list->parentWidget()->setFixedWidth(titles + 3 * line + list->verticalScrollBar()->sizeHint().width());
+    stack->setMinimumHeight(line * leastLines);
     int width = 0;
     for (const AbstractSettingsPage* page : qAsConst(pages))
         width = std::max(width, page->minimumSizeHint().width());
     stack->setMinimumWidth(width + areas.value(0, nullptr)->verticalScrollBar()->sizeHint().width());
+}
+
+QSize PlotSettingsDialogBase::sizeHint() const
+{
+    const QSize hint = PlotBaseDialog::sizeHint();
+    return {hint.width(), std::max(hint.height(), fontMetrics().height() * usualLines)};
 }
 
 int PlotSettingsDialogBase::getCurrentRow() const

@@ -29,6 +29,8 @@ public:
                            const QString& applicationName, BasePlot* editedPlot, QWidget* parent = nullptr);
     ~PlotSettingsDialogBase() override;
 
+    QSize sizeHint() const override;
+
     FieldBinder& getBinder() { return binder; }
     const QVector<AbstractSettingsPage*>& getPages() const { return pages; }
     int getCurrentRow() const;

@@ -13,6 +13,23 @@ struct Words
 
 } // namespace
 
+QVector<Field> RecordFields::together(const QVector<QVector<Field>>& alike)
+{
+    QVector<Field> fields = alike.first();
+    for (int i = 0; i < fields.size(); ++i) {
+        QVector<Field::Writer> writers;
+        for (const QVector<Field>& record : alike)
+            writers.append(record.at(i).write);
+        fields[i].write = [writers](const QVariant& value) {
+            bool changed = false;
+            for (const Field::Writer& write : writers)
+                changed = write(value) || changed;
+            return changed;
+        };
+    }
+    return fields;
+}
+
 QVector<Field> RecordFields::text(const QString& id, Label& label)
 {
     Label::Settings& record = label.getSettings();
@@ -75,6 +92,22 @@ QVector<Field> RecordFields::tics(const QString& id, Axis::TicsSettings& record)
             .offering(QStringList{Words::tr("Out"), Words::tr("Both")})
             .bind([&record] { return record.getStyle(); },
                   [&record](TicStyle style) { return record.setStyle(style); }),
+    };
+}
+
+QVector<Field> RecordFields::arrow(const QString& id, Arrow& drawn)
+{
+    Arrow::Settings& record = drawn.getSettings();
+    return {
+        Field::toggle(id + "/visible", Words::tr("Visible"), Words::tr("Whether the arrow is shown."))
+            .bind([&drawn] { return drawn.isVisible(); }, [&drawn](bool on) { return drawn.setVisible(on); }),
+        Field::choice(id + "/size", Words::tr("Size"), Words::tr("How large the arrow is."))
+            .offering(QStringList{Words::tr("Small"), Words::tr("Normal"), Words::tr("Large")})
+            .bind([&record] { return record.getSizeStyle(); },
+                  [&drawn](ArrowSizeStyle size) { return drawn.setSizeStyle(size); }),
+        Field::color(id + "/color", Words::tr("Color"), Words::tr("The color of the arrow."))
+            .bind([&record] { return record.getColor(); },
+                  [&record](const QColor& color) { return record.setColor(color); }),
     };
 }
 

@@ -9,12 +9,12 @@ namespace Zel3D {
 class FieldBinder;
 struct FieldGroup;
 
-/// The box of several records of one kind, such as the axes of three directions: a tab for each.
+/// Several things of one kind, such as the eight lights: a tab for each, with a box for each of its records.
 class VORANPLOT_EXPORT TabbedGroupBox : public AbstractSettingsGroupBox
 {
     Q_OBJECT
 public:
-    /// The groups have one title.
+    /// Groups with the same tab follow each other.
     TabbedGroupBox(const QVector<FieldGroup>& groups, FieldBinder& binder, QWidget* parent = nullptr);
 
     QVector<FieldForm*> getForms() const override { return forms; }

@@ -19,6 +19,8 @@
 #include <QTranslator>
 #include <QtTest>
 
+#include <cmath>
+
 namespace fixture {
 
 /// A painted plot with data and styles to choose from.
@@ -59,8 +61,10 @@ inline QVariant otherValue(const Zel3D::Field& field, const QVariant& value)
     case Field::Integer:
         return value.toInt() + 1 <= int(field.maximum) ? value.toInt() + 1 : value.toInt() - 1;
     case Field::Number: {
-        const double up = value.toDouble() + field.step;
-        return up <= field.maximum ? up : value.toDouble() - field.step;
+        // As it can be typed.
+        const double scale = std::pow(10.0, field.decimals);
+        const double here = std::round(value.toDouble() * scale) / scale;
+        return here + field.step <= field.maximum ? here + field.step : here - field.step;
     }
     case Field::Color:
         return value.value<QColor>() == QColor(1, 2, 3) ? QColor(3, 2, 1) : QColor(1, 2, 3);
