@@ -45,6 +45,7 @@ void FieldForm::addRow(const QVector<Field>& fields)
 {
     const int row = grid->rowCount();
     auto* line = new QHBoxLayout;
+    line->setSpacing(fontMetrics().averageCharWidth());
     QStringList ids;
     QWidget* rowLabel = nullptr;
     if (!fields.first().row.isEmpty())

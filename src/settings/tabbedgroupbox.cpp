@@ -12,7 +12,6 @@ namespace Zel3D {
 TabbedGroupBox::TabbedGroupBox(const QVector<FieldGroup>& groups, FieldBinder& binder, QWidget* parent)
     : AbstractSettingsGroupBox(QString(), parent), tabs(new QTabWidget(this))
 {
-    setFlat(true);
     QVBoxLayout* column = nullptr;
     for (const FieldGroup& group : groups) {
         if (!column || tabs->tabText(tabs->count() - 1) != group.tab) {
@@ -30,6 +29,11 @@ TabbedGroupBox::TabbedGroupBox(const QVector<FieldGroup>& groups, FieldBinder& b
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(tabs);
+}
+
+void TabbedGroupBox::paintEvent(QPaintEvent* /*event*/)
+{
+    // The tabs have a frame of their own.
 }
 
 void TabbedGroupBox::bringToFront(FieldForm* form)

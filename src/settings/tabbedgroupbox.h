@@ -20,6 +20,9 @@ public:
     QVector<FieldForm*> getForms() const override { return forms; }
     void bringToFront(FieldForm* form) override;
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
 private:
     QTabWidget* tabs;
     QVector<FieldForm*> forms;

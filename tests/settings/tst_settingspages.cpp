@@ -2,6 +2,9 @@
 
 #include "settingsfixture.h"
 
+#include <QScrollArea>
+#include <QScrollBar>
+
 using namespace Zel3D;
 using namespace fixture;
 
@@ -227,6 +230,9 @@ void TestSettingsPages::nothingIsCut()
         for (int page = 0; page < session.dialog.getPages().size(); ++page) {
             session.dialog.setCurrentRow(page);
             QTest::qWait(20);
+            for (const QScrollArea* area : session.dialog.findChildren<QScrollArea*>())
+                QVERIFY2(!area->isVisible() || area->horizontalScrollBar()->maximum() == 0,
+                         qPrintable(pageNames().at(page) + " is wider than its place"));
             for (const QWidget* widget : session.dialog.findChildren<QWidget*>()) {
                 const bool hasText =
                     qobject_cast<const QLabel*>(widget) || qobject_cast<const QAbstractButton*>(widget) ||
