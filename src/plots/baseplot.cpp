@@ -9,6 +9,7 @@
 #include "plots/pickhighlight.h"
 #include "plots/pickpass.h"
 #include "plots/plotactions.h"
+#include "plots/settingsdialogoptions.h"
 #include "scene/coordinatesystem.h"
 #include "scene/facepolicy.h"
 #include "scene/legend.h"

@@ -28,6 +28,7 @@ class PickPass;
 class PickPoints;
 class PlotActions;
 class StyleAction;
+class SettingsDialogOptions;
 class Title;
 struct EdgeChoice;
 
@@ -84,6 +85,8 @@ public:
     const Title& getTitle() const { return *title; }
     Legend& getLegend() { return *legend; }
     const Legend& getLegend() const { return *legend; }
+    /// Owned by the plot; null shows all pages.
+    const SettingsDialogOptions* getSettingsDialogOptions() const { return settingsDialogOptions.get(); }
     /// The proportions that undo the last automatic scale; see AutoScaling::inverseOf().
     ValueXYZ<double> getAutoScaleInverse() const;
     /// Height of the contour plot: the data's maximum z for the top plane, minimum z for the bottom, else 0.
@@ -116,6 +119,10 @@ public:
     bool setMeshSmooth(bool on);
     bool setMeshColor(const QColor& color);
     bool setMeshLineWidth(double pixels); ///< negative is refused
+    bool setMeshXVisible(bool on);        ///< the lines along a column
+    bool setMeshYVisible(bool on);        ///< the lines along a row
+    bool setNormalsQuality(double sides); ///< sides of an arrow's head
+    bool setNormalsLength(double part);   ///< as a fraction of the diagonal of the data's box
     bool setCylinderRibNumber(int ribs);
     bool setCylinderRadius(double sceneUnits); ///< the signal carries the radius truncated to an int
     bool setCylinderFrameVisible(bool on);
@@ -156,6 +163,8 @@ public:
     void setDataColor(DataColor* coloring);
     /// The marker of plot style -1; takes ownership, deletes the previous one. Null for none.
     void setStyleAddition(Addition* addition);
+    /// What the settings dialog shows; takes ownership, deletes the previous options. Null for all pages.
+    void setSettingsDialogOptions(SettingsDialogOptions* options);
     /// The value range of the legend and the colours; equal ends switch back to the hull's z range. No
     /// repaint.
     void setGradientRange(const Pair<double>& range);
@@ -283,6 +292,10 @@ signals:
     void meshSmoothChanged(bool on);
     void meshColorChanged(const QColor& color);
     void meshLineWidthChanged(double pixels);
+    void meshXVisibleChanged(bool on);
+    void meshYVisibleChanged(bool on);
+    void normalsQualityChanged(double sides);
+    void normalsLengthChanged(double part);
     void cylinderRibNumberChanged(int ribs);
     void cylinderRadiusChanged(int sceneUnits);
     void cylinderFrameVisibleChanged(bool on);
@@ -390,6 +403,7 @@ private:
     std::array<bool, 3> logarithmicData{};
     std::array<bool, 3> loadedLogarithmic{}; ///< as the data in the plot were loaded
     std::unique_ptr<BasePlotSettings> settings;
+    std::unique_ptr<SettingsDialogOptions> settingsDialogOptions;
     Parallelepiped hull;
     Parallelepiped fixedHull;
     Pair<double> gradientRange;

@@ -4,6 +4,7 @@
 #include "plots/addition.h"
 #include "plots/baseplot.h"
 #include "plots/baseplotsettings.h"
+#include "plots/settingsdialogoptions.h"
 #include "scene/coordinatesystem.h"
 #include "scene/legend.h"
 #include "scene/title.h"
@@ -83,6 +84,42 @@ bool BasePlot::setMeshLineWidth(double pixels)
         return false;
     markDataChanged();
     emit meshLineWidthChanged(pixels);
+    return true;
+}
+
+bool BasePlot::setMeshXVisible(bool on)
+{
+    if (!settings->getMesh().setXVisible(on))
+        return false;
+    markDataChanged();
+    emit meshXVisibleChanged(on);
+    return true;
+}
+
+bool BasePlot::setMeshYVisible(bool on)
+{
+    if (!settings->getMesh().setYVisible(on))
+        return false;
+    markDataChanged();
+    emit meshYVisibleChanged(on);
+    return true;
+}
+
+bool BasePlot::setNormalsQuality(double sides)
+{
+    if (!settings->getNormals().setQuality(sides))
+        return false;
+    normalsDirty = true;
+    emit normalsQualityChanged(sides);
+    return true;
+}
+
+bool BasePlot::setNormalsLength(double part)
+{
+    if (!settings->getNormals().setLength(part))
+        return false;
+    normalsDirty = true;
+    emit normalsLengthChanged(part);
     return true;
 }
 
@@ -272,6 +309,12 @@ void BasePlot::setStyleAddition(Addition* addition)
         return;
     styleAddition.reset(addition);
     markDataChanged();
+}
+
+void BasePlot::setSettingsDialogOptions(SettingsDialogOptions* options)
+{
+    if (options != settingsDialogOptions.get())
+        settingsDialogOptions.reset(options);
 }
 
 void BasePlot::setGradientRange(const Pair<double>& range)

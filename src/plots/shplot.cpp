@@ -5,6 +5,7 @@
 #include "core/celldata.h"
 #include "core/griddata.h"
 #include "plots/datacheck.h"
+#include "settings/plotsettingsdialog.h"
 
 #include <cmath>
 #include <limits>
@@ -36,6 +37,11 @@ SHPlot::SHPlot(const QString& name, const QString& organizationName, const QStri
 }
 
 SHPlot::~SHPlot() = default;
+
+void SHPlot::slotSettingsDialog()
+{
+    PlotSettingsDialog::run(*this);
+}
 
 template <class Container, class Fill>
 bool SHPlot::load(Container* container, const QString& fault, const Fill& fill)

@@ -52,6 +52,11 @@ public:
     void updateDataType(int type) override;
     void clearData() override;
 
+public slots:
+    /// Opens the settings dialog of the plot, or raises the open one; the plot stays usable. Returns when the
+    /// dialog is closed; the plot may have been deleted by then.
+    void slotSettingsDialog() override;
+
 protected:
     void calculateHull() override;
     void createData() override;

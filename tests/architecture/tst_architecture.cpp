@@ -34,6 +34,7 @@ const QMap<QString, QStringList> upwards = {
     {"core/parametricsurface.cpp", {"plots/shplot.h"}},
     {"core/testcelldata.cpp", {"plots/shplot.h"}},
     {"core/watersurface.cpp", {"plots/shplot.h"}},
+    {"plots/shplot.cpp", {"settings/plotsettingsdialog.h"}},
 };
 
 QByteArray contents(const QString& path)

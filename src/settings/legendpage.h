@@ -1,0 +1,15 @@
+#pragma once
+
+#include "settings/abstractsettingspage.h"
+
+namespace Zel3D {
+
+/// Settings of the colour legend of a plot.
+class VORANPLOT_EXPORT LegendPage : public AbstractSettingsPage
+{
+    Q_OBJECT
+public:
+    QVector<FieldGroup> describe(BasePlot& plot) const override;
+};
+
+} // namespace Zel3D

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "core/export.h"
+
+#include <QVariant>
+#include <QWidget>
+
+namespace Zel3D {
+
+struct Field;
+
+/// The widget that shows one value and lets a person change it. It knows nothing of plots.
+class VORANPLOT_EXPORT ValueEditor : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit ValueEditor(QWidget* parent = nullptr);
+
+    /// Shows a value; nothing is emitted.
+    virtual void show(const QVariant& value) = 0;
+    /// The widget that takes the keyboard and to which the label belongs.
+    virtual QWidget* focusTarget() = 0;
+
+    /// The editor of a field's kind, or the field's own.
+    static ValueEditor* make(const Field& field);
+
+signals:
+    /// A person changed the value. Steps with the same \a gesture, when it is not 0, belong together.
+    void edited(const QVariant& value, int gesture);
+
+protected:
+    /// Lays the parts out in a line.
+    void arrange(const QList<QWidget*>& parts);
+};
+
+} // namespace Zel3D
