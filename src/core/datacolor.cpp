@@ -62,7 +62,7 @@ void DataColor::loadSettings(const QString& prefix, const QString& organization,
 {
     const QSettings store(organization, application);
     setId(store.value(QString("%0/dataColor/id").arg(prefix), QString()).toString());
-    const int size = store.value(QString("%0/dataColor/size").arg(prefix), 0).toInt();
+    const int size = storedStopCount(store.value(QString("%0/dataColor/size").arg(prefix), 0));
     QLinearGradient loaded;
     for (int i = 0; i < size; ++i) {
         const QVariant color = store.value(QString("%0/dataColor/%1/color").arg(prefix).arg(i), QColor());

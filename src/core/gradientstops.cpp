@@ -1,6 +1,12 @@
 #include "core/gradientstops.h"
 
+#include <algorithm>
+
 namespace Zel3D {
+
+namespace {
+constexpr int mostStoredStops = 4096;
+}
 
 QGradientStops gradientStops(const QGradient& gradient)
 {
@@ -14,6 +20,11 @@ QGradientStops gradientStops(const QGradient& gradient)
 bool sameGradient(const QGradient& a, const QGradient& b)
 {
     return a == b && gradientStops(a).isEmpty() == gradientStops(b).isEmpty();
+}
+
+int storedStopCount(const QVariant& size)
+{
+    return std::clamp(size.toInt(), 0, mostStoredStops);
 }
 
 } // namespace Zel3D

@@ -3,6 +3,7 @@
 #include "core/export.h"
 
 #include <QGradient>
+#include <QVariant>
 
 namespace Zel3D {
 
@@ -14,5 +15,9 @@ VORANPLOT_EXPORT QGradientStops gradientStops(const QGradient& gradient);
 
 /// Whether two gradients are equal, a gradient without stops being different from an explicit black to white.
 VORANPLOT_EXPORT bool sameGradient(const QGradient& a, const QGradient& b);
+
+/// How many stops to read where \a size says how many were stored: never below 0 and never more than a
+/// gradient that a person made would have, whatever stands there.
+VORANPLOT_EXPORT int storedStopCount(const QVariant& size);
 
 } // namespace Zel3D

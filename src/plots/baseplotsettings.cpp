@@ -181,7 +181,8 @@ void BasePlot::GradientsSettings::loadSettings(const QString& prefix, const QStr
     for (const QString& name : names) {
         if (isBuiltIn(name))
             continue;
-        const int size = settings.value(QString("%0/gradients/%1/size").arg(prefix).arg(name), 0).toInt();
+        const int size =
+            storedStopCount(settings.value(QString("%0/gradients/%1/size").arg(prefix).arg(name), 0));
         if (size < 1)
             continue;
         QLinearGradient gradient;
