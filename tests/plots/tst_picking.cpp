@@ -29,7 +29,7 @@ namespace {
 constexpr int width = 240;
 constexpr int height = 180;
 
-/// Where a point of the scene is drawn, in the widget's pixels.
+/// Where a point of the scene is drawn, in the widget's logical pixels.
 QPointF pixelIn(BasePlot& plot, const QVector3D& p)
 {
     plot.makeCurrent();
@@ -39,7 +39,8 @@ QPointF pixelIn(BasePlot& plot, const QVector3D& p)
     plot.orthoGL();
     const WindowPoint at = projectToWindow(currentViewFrame(), p);
     glPopMatrix();
-    return {at.x, plot.height() - at.y};
+    const double ratio = plot.devicePixelRatioF();
+    return {at.x / ratio, plot.height() - at.y / ratio};
 }
 
 /// A plot whose picks can be made step by step.
@@ -362,7 +363,8 @@ private slots:
         const QPointF place = plot.pixelOf(QVector3D(2, 6, float(hill(2, 6))));
         const auto darkAround = [&] {
             const QImage image = harness::grab(plot);
-            const QRect around(place.toPoint() - QPoint(12, 12), QSize(25, 25));
+            const double ratio = plot.devicePixelRatioF();
+            const QRect around((place * ratio).toPoint() - QPoint(12, 12) * ratio, QSize(25, 25) * ratio);
             return pixels(image.copy(around), QColor(13, 13, 13));
         };
         plot.pickAt(place);
