@@ -20,11 +20,11 @@ struct Entry
 
 constexpr Entry entries[] = {
     {"jacksboro_dem.asc", QT_TRANSLATE_NOOP("Examples", "Jacksboro fault"),
-     QT_TRANSLATE_NOOP("Examples", "Measured elevation of a mountain ridge in Tennessee: a grid"), "filled"},
+     QT_TRANSLATE_NOOP("Examples", "A mountain ridge in Tennessee: a grid"), "filled"},
     {"gasoline_nir.csv", QT_TRANSLATE_NOOP("Examples", "Gasoline"),
-     QT_TRANSLATE_NOOP("Examples", "Near-infrared spectra of 60 samples: a table"), "spectrumfilled"},
+     QT_TRANSLATE_NOOP("Examples", "Infrared spectra of 60 samples"), "spectrumfilled"},
     {"bunny.off", QT_TRANSLATE_NOOP("Examples", "Rabbit"),
-     QT_TRANSLATE_NOOP("Examples", "A scanned figure of 3674 triangles: a mesh"), "filledmesh"},
+     QT_TRANSLATE_NOOP("Examples", "A scanned figure: a mesh"), "filledmesh"},
 };
 
 QString tr(const char* text)

@@ -27,6 +27,7 @@ std::unique_ptr<PlotView> GridSource::read()
         return fail(reader.error());
     auto plot = std::make_unique<ViewerPlot>();
     plot->setRelief(terrainRelief);
+    plot->lightAsMap();
     plot->setDataGradient(tr("Terrain"), terrainGradient());
     if (!plot->load(grid))
         return failToDraw();

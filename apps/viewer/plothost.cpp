@@ -21,7 +21,7 @@ QIcon icon(const char* name)
 } // namespace
 
 PlotHost::PlotHost(QMainWindow& window, PlotPage& page, QMenu& plotMenu, QMenu& viewMenu, QAction* viewEnd)
-    : m_window(window), m_page(page), m_viewMenu(viewMenu), m_plotMenu(plotMenu, page)
+    : QObject(&window), m_window(window), m_page(page), m_viewMenu(viewMenu), m_plotMenu(plotMenu, page, this)
 {
     placeStatusBar();
     placeToolBars();

@@ -13,7 +13,7 @@
 
 using Zel3D::BasePlot;
 
-PlotMenu::PlotMenu(QMenu& menu, PlotPage& page) : m_menu(menu), m_page(page)
+PlotMenu::PlotMenu(QMenu& menu, PlotPage& page, QObject* parent) : QObject(parent), m_menu(menu), m_page(page)
 {
     const bool surface = page.view().kind() == PlotKind::Surface;
     addStyles();

@@ -14,7 +14,7 @@ class PlotMenu : public QObject
 {
     Q_OBJECT
 public:
-    PlotMenu(QMenu& menu, PlotPage& page);
+    PlotMenu(QMenu& menu, PlotPage& page, QObject* parent);
     ~PlotMenu() override;
 
     /// What starts, pauses and disturbs a simulation; empty for a plot without one.

@@ -23,6 +23,7 @@ std::unique_ptr<PlotView> SpectraSource::read()
     auto plot = std::make_unique<ViewerSpectrum>();
     if (!plot->load(spectra))
         return failToDraw();
+    m_label = spectra.spectraLabel;
     std::size_t values = 0;
     int index = 0;
     for (const auto& [position, spectrum] : spectra.map) {
@@ -48,5 +49,5 @@ QString SpectraSource::describe(const Zel3D::SelectedObjectsInfo& place) const
     if (nearest == m_names.end() ||
         (nearest != m_names.begin() && place.y - std::prev(nearest)->first < nearest->first - place.y))
         --nearest;
-    return tr("%1: %2 at %3").arg(nearest->second).arg(place.z).arg(place.x);
+    return tr("%1 %2: %3 at %4").arg(m_label, nearest->second).arg(place.z).arg(place.x);
 }

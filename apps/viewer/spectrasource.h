@@ -23,5 +23,6 @@ protected:
 
 private:
     QString m_path;
+    QString m_label;
     std::map<double, QString> m_names; ///< by the positions of the spectra
 };

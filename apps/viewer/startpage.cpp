@@ -32,7 +32,10 @@ QCommandLinkButton* entry(const QString& title, const QString& description, cons
     auto* button = new QCommandLinkButton(title, description);
     button->setIcon(icon);
     button->setIconSize(entryIcons);
-    button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    // As high as its words need in the column's width, no more.
+    QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    policy.setHeightForWidth(true);
+    button->setSizePolicy(policy);
     return button;
 }
 
@@ -59,8 +62,8 @@ StartPage::StartPage(const QList<Example>& examples, QAction* openFile, const QL
     auto* sheet = new QWidget;
     sheet->setMaximumWidth(widest);
     auto* rows = new QVBoxLayout(sheet);
-    rows->setContentsMargins(gap, gap, gap, gap);
-    rows->setSpacing(gap);
+    rows->setContentsMargins(gap, gap / 2, gap, gap / 2);
+    rows->setSpacing(gap / 2);
     rows->addWidget(makeHead(openFile));
     auto* columns = new QHBoxLayout;
     columns->setSpacing(gap);
@@ -97,7 +100,7 @@ QWidget* StartPage::makeHead(QAction* openFile)
     auto* words = new QVBoxLayout;
     words->setSpacing(2);
     words->addWidget(heading(tr("voranview"), 1.8));
-    auto* hint = new QLabel(tr("Drop a grid, a table of spectra or a mesh anywhere in this window."));
+    auto* hint = new QLabel(tr("Drop a grid, spectra or a mesh into this window."));
     hint->setWordWrap(true);
     words->addWidget(hint);
     layout->addLayout(words, 1);

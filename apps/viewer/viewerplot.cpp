@@ -48,15 +48,23 @@ ViewerPlot::ViewerPlot(QWidget* parent) : ViewedPlot(parent)
 
 void ViewerPlot::lightFromNorthWest()
 {
-    // As on shaded maps. Slopes in the shade keep four fifths of their colour, so that it can still be read.
     Zel3D::Light& sun = *getLights().first();
     sun.setPhi(135.0);
     sun.setTheta(60.0);
-    sun.setAmbient(QColor(160, 160, 160));
-    sun.setDiffuse(QColor(130, 130, 130));
+    // Together no more than the colour itself.
+    sun.setAmbient(QColor(120, 120, 120));
+    sun.setDiffuse(QColor(135, 135, 135));
     sun.setSpecular(Qt::black);
     sun.setOn(true);
     setLighting(true);
+}
+
+void ViewerPlot::lightAsMap()
+{
+    // Slopes in the shade keep four fifths of their colour, so that it can still be read.
+    Zel3D::Light& sun = *getLights().first();
+    sun.setAmbient(QColor(160, 160, 160));
+    sun.setDiffuse(QColor(130, 130, 130));
 }
 
 bool ViewerPlot::load(Grid& grid)

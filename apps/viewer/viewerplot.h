@@ -28,6 +28,9 @@ public:
     /// The part of the longer horizontal side that the heights take under automatic scaling. Without one the
     /// box is a cube.
     void setRelief(double part);
+    /// Light as on shaded maps: the colours in the shade stay legible, and slopes towards the sun are
+    /// bleached.
+    void lightAsMap();
     /// As the base class does; the density of drawn nodes follows the style.
     bool setPlotStyle(int style) override;
 

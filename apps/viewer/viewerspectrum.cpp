@@ -4,6 +4,8 @@
 #include "plotstyles.h"
 #include "spectra.h"
 
+#include <limits>
+
 namespace {
 
 constexpr double depthPart = 0.8;
@@ -25,10 +27,30 @@ ViewerSpectrum::ViewerSpectrum(QWidget* parent) : ViewedPlot(parent)
     resetView();
 }
 
+void ViewerSpectrum::setBox(const Spectra& spectra)
+{
+    // The plot's own box also reaches to the position of the first spectrum, on the axis of the values.
+    const auto infinity = std::numeric_limits<float>::infinity();
+    QVector3D lower(infinity, infinity, infinity);
+    QVector3D upper = -lower;
+    for (const auto& [position, values] : spectra.map) {
+        for (const auto& [at, value] : values) {
+            const float place[] = {float(at), float(position), float(value)};
+            for (int i = 0; i < 3; ++i) {
+                // Missing values compare as neither.
+                lower[i] = place[i] < lower[i] ? place[i] : lower[i];
+                upper[i] = place[i] > upper[i] ? place[i] : upper[i];
+            }
+        }
+    }
+    setFixedHull({lower, upper});
+}
+
 bool ViewerSpectrum::load(const Spectra& spectra)
 {
     if (!loadFromData(spectra.map, Zel3D::YAxis))
         return false;
+    setBox(spectra);
     nameAxes({spectra.positionLabel.isEmpty() ? tr("Position") : spectra.positionLabel, spectra.spectraLabel,
               tr("Value")});
     resetView();

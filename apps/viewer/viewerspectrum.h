@@ -19,4 +19,7 @@ public:
 
 protected:
     Zel3D::ValueXYZ<double> recalculateAutoScale() override;
+
+private:
+    void setBox(const Spectra& spectra);
 };

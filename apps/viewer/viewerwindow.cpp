@@ -130,13 +130,13 @@ QMenu* ViewerWindow::createNewMenu()
         menu->addAction(icon("wireframe"), tr("From &formula..."), this, &ViewerWindow::askFormula,
                         QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_F));
     formula->setIconText(tr("Formula"));
-    formula->setStatusTip(tr("Type z as a function of x and y"));
+    formula->setStatusTip(tr("z as a function of x and y"));
     QAction* toroid = menu->addAction(icon("hiddenline"), tr("&Toroid"), this,
                                       [this] { showPlot(std::make_unique<ToroidSource>()); });
-    toroid->setStatusTip(tr("A ring with a tilted tube: a parametric surface"));
+    toroid->setStatusTip(tr("A ring with a tilted tube"));
     QAction* water = menu->addAction(icon("points"), tr("&Water surface"), this,
                                      [this] { showPlot(std::make_unique<WaterSource>()); });
-    water->setStatusTip(tr("Ripples around a stone that falls into a basin"));
+    water->setStatusTip(tr("Ripples around a falling stone"));
     m_newActions = {formula, toroid, water};
     return menu;
 }

@@ -9,9 +9,9 @@ namespace {
 constexpr double stepsPerSecond = 60.0;
 constexpr unsigned int nodes = 100;
 
-// The ripples after the first splash, which the sheet cuts off.
-constexpr float trough = -1.2F;
-constexpr float crest = 1.8F;
+// The ripples; the first splash leaves the box for a moment.
+constexpr float trough = -2.0F;
+constexpr float crest = 3.0F;
 
 } // namespace
 
@@ -21,7 +21,6 @@ WaterSimulation::WaterSimulation(ViewerPlot& plot) : m_plot(plot), m_water(plot)
     m_water.setAreaLimits(-1.0, 1.0, -1.0, 1.0);
     m_water.setPausedWhenHidden(true);
     const Zel3D::Parallelepiped basin{QVector3D(-1.0F, -1.0F, trough), QVector3D(1.0F, 1.0F, crest)};
-    m_water.restrictRange(basin);
     m_plot.setFixedHull(basin);
     m_timer.setTimerType(Qt::PreciseTimer);
     m_timer.setInterval(qRound(1000.0 / stepsPerSecond));

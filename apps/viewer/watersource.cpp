@@ -37,7 +37,7 @@ std::unique_ptr<PlotView> WaterSource::read()
     plot->nameAxes({tr("x"), tr("y"), tr("z")});
     plot->resetView();
     m_simulation->dropStone();
-    setDescription(tr("Drop a stone with Ctrl+D, start and pause with F5."));
+    setDescription(tr("Ctrl+D drops a stone, F5 pauses."));
     return plot;
 }
 
