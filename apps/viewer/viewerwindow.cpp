@@ -267,9 +267,10 @@ void ViewerWindow::askFormula()
 void ViewerWindow::savePicture()
 {
     QSettings settings;
+    const QString shown = m_page->source().filePath();
+    const QString base = shown.isEmpty() ? tr("plot") : QFileInfo(shown).completeBaseName();
     const QString suggestion =
-        QDir(settings.value(folderKey).toString())
-            .filePath(QFileInfo(m_page->source().filePath()).completeBaseName() + QLatin1String(".png"));
+        QDir(settings.value(folderKey).toString()).filePath(base + QLatin1String(".png"));
     QFileDialog dialog(this, tr("Save picture"), suggestion, tr("Pictures (*.png)"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix("png");
