@@ -1,5 +1,7 @@
 #include "commandline.h"
 
+#include "filekind.h"
+#include "formula.h"
 #include "plotstyles.h"
 
 #include <QRegularExpression>
@@ -8,6 +10,9 @@ namespace {
 
 constexpr int smallestSide = 50;
 constexpr int largestSide = 16384;
+
+constexpr char usualRange[] = "-5:5";
+constexpr char usualMesh[] = "150";
 
 QStringList lookNames()
 {
@@ -23,18 +28,40 @@ QStringList lookNames()
 CommandLine::CommandLine()
 {
     m_parser.setApplicationDescription(
-        tr("Shows a grid of heights as an interactive three-dimensional plot."));
-    m_parser.addPositionalArgument("FILE", tr("A grid file of any format that GDAL reads."), "[FILE]");
+        tr("Shows grids of heights, meshes, spectra and formulas as interactive three-dimensional plots."));
+    m_parser.addPositionalArgument(
+        "FILE",
+        tr("A grid of any format that GDAL reads, a mesh (OFF, OBJ, PLY, STL, glTF "
+           "...) or spectra in a CSV file."),
+        "[FILE]");
     m_parser.addOptions({
-        {"style", tr("Draw the plot in this style: %1.").arg(PlotStyles::names().join(", ")), "NAME"},
+        {"function", tr("Show z as a formula of x and y, such as \"sin(x)*cos(y)\"."), "FORMULA"},
+        {"range",
+         tr("Where the formula is evaluated: x from:to, then y from:to, such as -3:3,-2*pi:2*pi; one range "
+            "is "
+            "for both. %1 without it.")
+             .arg(usualRange),
+         "RANGE"},
+        {"mesh",
+         tr("Nodes of the formula along x and y, such as 200x100; one number is for both. %1 without it.")
+             .arg(usualMesh),
+         "NXxNY"},
+        {"style",
+         tr("Draw the plot in this style: %1; spectra: %2.")
+             .arg(PlotStyles::names(PlotKind::Surface).join(", "),
+                  PlotStyles::names(PlotKind::Spectra).join(", ")),
+         "NAME"},
         {"look", tr("Dress the plot in this look: %1.").arg(lookNames().join(", ")), "NAME"},
         {"size", tr("Size of the plot in pixels, each side %1 to %2.").arg(smallestSide).arg(largestSide),
          "WxH"},
         {"png", tr("Write the plot to this picture and leave."), "PICTURE"},
-        {"band", tr("Band of the file to show, from 1.", "command line"), "N"},
+        {"band", tr("Band of a grid file to show, from 1.", "command line"), "N"},
         {{"h", "help"}, tr("Show this help and leave.")},
         {{"v", "version"}, tr("Show the version and leave.")},
     });
+    QString none;
+    m_area.setRange(usualRange, none);
+    m_area.setMesh(usualMesh, none);
 }
 
 CommandLine::Outcome CommandLine::refuse(const QString& sentence)
@@ -62,34 +89,81 @@ CommandLine::Outcome CommandLine::take()
 {
     const QStringList files = m_parser.positionalArguments();
     if (files.size() > 1)
-        return refuse(tr("Only one grid file can be shown; %1 are named.").arg(files.size()));
+        return refuse(tr("Only one file can be shown; %1 are named.").arg(files.size()));
     m_file = files.value(0);
     m_picture = m_parser.value("png");
     const struct
     {
         const char* option;
         bool (CommandLine::*take)(const QString&);
-    } checks[] = {{"style", &CommandLine::takeStyle},
-                  {"look", &CommandLine::takeLook},
-                  {"size", &CommandLine::takeSize},
-                  {"band", &CommandLine::takeBand}};
+    } checks[] = {{"style", &CommandLine::takeStyle},      {"look", &CommandLine::takeLook},
+                  {"size", &CommandLine::takeSize},        {"band", &CommandLine::takeBand},
+                  {"function", &CommandLine::takeFormula}, {"range", &CommandLine::takeRange},
+                  {"mesh", &CommandLine::takeMesh}};
     for (const auto& check : checks) {
         if (m_parser.isSet(check.option) && !(this->*check.take)(m_parser.value(check.option)))
             return Refuse;
     }
+    return checkTogether();
+}
+
+CommandLine::Outcome CommandLine::checkTogether()
+{
+    if (!m_formula.isEmpty() && !m_file.isEmpty())
+        return refuse(tr("A file and a formula are named; only one of them can be shown."));
+    for (const char* option : {"range", "mesh"}) {
+        if (m_parser.isSet(option) && m_formula.isEmpty())
+            return refuse(tr("The option --%1 is for a formula; none is named with --function.").arg(option));
+    }
+    if (m_parser.isSet("band") && (!m_formula.isEmpty() || fileKind(m_file) != FileKind::Grid))
+        return refuse(tr("The option --band is for grid files; none is named."));
     if (m_parser.isSet("png") && m_picture.isEmpty())
         return refuse(tr("The option --png names no picture."));
-    if (m_parser.isSet("png") && m_file.isEmpty())
-        return refuse(tr("A picture needs a grid file to show; none is named."));
+    if (m_parser.isSet("png") && m_file.isEmpty() && m_formula.isEmpty())
+        return refuse(tr("A picture needs a file or a formula to show; none is named."));
     return Show;
+}
+
+PlotKind CommandLine::kind() const
+{
+    const bool spectra = !m_file.isEmpty() && fileKind(m_file) == FileKind::Spectra;
+    return spectra ? PlotKind::Spectra : PlotKind::Surface;
+}
+
+bool CommandLine::takeFormula(const QString& value)
+{
+    const Formula formula(value);
+    m_formula = value;
+    if (!formula.isValid())
+        refuse(formula.error());
+    return formula.isValid();
+}
+
+bool CommandLine::takeRange(const QString& value)
+{
+    QString error;
+    const bool taken = m_area.setRange(value, error);
+    if (!taken)
+        refuse(error);
+    return taken;
+}
+
+bool CommandLine::takeMesh(const QString& value)
+{
+    QString error;
+    const bool taken = m_area.setMesh(value, error);
+    if (!taken)
+        refuse(error);
+    return taken;
 }
 
 bool CommandLine::takeStyle(const QString& value)
 {
-    m_style = PlotStyles::fromName(value);
+    m_style = PlotStyles::fromName(kind(), value);
     if (!m_style)
-        refuse(tr("There is no plot style \"%1\"; the styles are %2.")
-                   .arg(value, PlotStyles::names().join(", ")));
+        refuse((kind() == PlotKind::Spectra ? tr("Spectra have no plot style \"%1\"; the styles are %2.")
+                                            : tr("There is no plot style \"%1\"; the styles are %2."))
+                   .arg(value, PlotStyles::names(kind()).join(", ")));
     return m_style.has_value();
 }
 

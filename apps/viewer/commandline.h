@@ -1,5 +1,7 @@
 #pragma once
 
+#include "formulaarea.h"
+#include "plotkind.h"
 #include "plots/look.h"
 
 #include <QCommandLineParser>
@@ -27,11 +29,17 @@ public:
     /// The help, the version or the sentence that says what is wrong with the arguments.
     const QString& text() const { return m_text; }
 
-    /// The grid file, or empty.
+    /// The file, or empty.
     const QString& file() const { return m_file; }
-    /// The band of the file, from 1.
+    /// The band of a grid file, from 1.
     int band() const { return m_band; }
-    /// The plot style, when one was asked for.
+    /// The formula, or empty.
+    const QString& formula() const { return m_formula; }
+    /// Where the formula is evaluated.
+    const FormulaArea& area() const { return m_area; }
+    /// The kind of plot that file or formula need; surfaces without either.
+    PlotKind kind() const;
+    /// The plot style of that kind, when one was asked for.
     std::optional<int> style() const { return m_style; }
     /// The look, when one was asked for.
     const std::optional<Zel3D::Look>& look() const { return m_look; }
@@ -46,11 +54,17 @@ private:
     bool takeLook(const QString& value);
     bool takeSize(const QString& value);
     bool takeBand(const QString& value);
+    bool takeFormula(const QString& value);
+    bool takeRange(const QString& value);
+    bool takeMesh(const QString& value);
     Outcome take();
+    Outcome checkTogether();
 
     QCommandLineParser m_parser;
     QString m_text;
     QString m_file;
+    QString m_formula;
+    FormulaArea m_area;
     QString m_picture;
     std::optional<int> m_style;
     std::optional<Zel3D::Look> m_look;

@@ -156,8 +156,10 @@ std::optional<double> Formula::constant()
     return std::isnan(found) ? std::nullopt : std::optional<double>(found);
 }
 
-bool Formula::checkArea(const FormulaArea& area)
+bool Formula::fits(const FormulaArea& area)
 {
+    if (m_valid)
+        m_error.clear();
     if (area.columns < 2 || area.rows < 2)
         return fail(tr("\"%1\" cannot be drawn over %2 x %3 nodes (columns x rows); a surface needs at least "
                        "2 x 2.")
@@ -200,8 +202,7 @@ bool Formula::read(Grid& grid, const FormulaArea& area)
     m_notes.clear();
     if (!m_valid)
         return false;
-    m_error.clear();
-    if (!checkArea(area))
+    if (!fits(area))
         return false;
     Grid found;
     try {

@@ -39,6 +39,9 @@ public:
     /// The value of a valid formula without x and y; otherwise nothing.
     std::optional<double> constant();
 
+    /// Whether the machine has memory for a surface over the area, of two columns and rows at least; if not,
+    /// error() says so.
+    bool fits(const FormulaArea& area);
     /// Evaluates the formula over an area and replaces the grid with the heights. Nodes without a height are
     /// missing. False when that fails: the grid is as it was then and error() says why.
     bool read(Grid& grid, const FormulaArea& area);
@@ -51,7 +54,6 @@ private:
     bool checkForm();
     QString reason(int code, const QString& token) const;
     QString failure(int column, const QString& why) const;
-    bool checkArea(const FormulaArea& area);
     void fill(Grid& grid);
 
     QString m_text;

@@ -1,12 +1,13 @@
 #include "commandline.h"
 #include "display.h"
-#include "gridfile.h"
+#include "filesource.h"
+#include "formulasource.h"
 #include "picturefile.h"
-#include "viewerplot.h"
+#include "plotpage.h"
+#include "plots/baseplot.h"
 #include "viewerwindow.h"
 
 #include <QApplication>
-#include <QFileInfo>
 
 #include <cstdio>
 
@@ -27,22 +28,35 @@ int refuse(const QString& sentence)
     return EXIT_FAILURE;
 }
 
+std::unique_ptr<PlotSource> sourceOf(const CommandLine& wanted)
+{
+    if (!wanted.formula().isEmpty())
+        return std::make_unique<FormulaSource>(wanted.formula(), wanted.area());
+    return sourceOfFile(wanted.file(), wanted.band());
+}
+
+void tellNotes(const PlotSource& source)
+{
+    for (const QString& note : source.notes())
+        std::fprintf(stderr, "voranview: %s\n", qPrintable(note));
+}
+
 int takePicture(const CommandLine& wanted)
 {
-    Grid grid;
-    GridFile reader(wanted.file());
-    if (!reader.read(grid, wanted.band()))
-        return refuse(reader.error());
+    const std::unique_ptr<PlotSource> source = sourceOf(wanted);
+    const std::unique_ptr<PlotView> view = source->open();
+    if (!view)
+        return refuse(source->error());
+    tellNotes(*source);
     const QSize size = wanted.size().value_or(usualPicture);
-    ViewerPlot plot;
+    Zel3D::BasePlot& plot = view->plot();
     plot.resize(size / plot.devicePixelRatioF());
     if (wanted.style())
         plot.setPlotStyle(*wanted.style());
     if (wanted.look())
-        plot.setLook(*wanted.look());
-    if (!plot.load(grid, QFileInfo(wanted.file()).fileName()))
-        return refuse(CommandLine::tr("\"%1\" cannot be drawn.").arg(wanted.file()));
-    const QImage picture = plot.picture(size);
+        view->setLook(*wanted.look());
+    view->resetView();
+    const QImage picture = view->picture(size);
     if (picture.isNull())
         return refuse(CommandLine::tr("A picture of %1 x %2 pixels cannot be drawn here.")
                           .arg(size.width())
@@ -55,12 +69,15 @@ int showWindow(const CommandLine& wanted)
 {
     ViewerWindow window;
     if (wanted.look())
-        window.plot().setLook(*wanted.look());
+        window.preferences().setLook(*wanted.look());
     if (wanted.style())
-        window.plot().setPlotStyle(*wanted.style());
+        window.preferences().setStyle(wanted.kind(), *wanted.style());
     QString error;
-    if (!wanted.file().isEmpty() && !window.open(wanted.file(), wanted.band(), error))
-        return refuse(error);
+    if (!wanted.file().isEmpty() || !wanted.formula().isEmpty()) {
+        if (!window.present(sourceOf(wanted), error))
+            return refuse(error);
+        tellNotes(window.page()->source());
+    }
     window.show();
     if (wanted.size())
         window.fitPlot(*wanted.size());

@@ -1,5 +1,7 @@
 #include "plotstyles.h"
 
+#include <QVector>
+
 namespace {
 
 struct Entry
@@ -8,25 +10,35 @@ struct Entry
     const char* text; ///< on the plot's tool bar
 };
 
-constexpr Entry entries[] = {{"none", "No plot"},       {"points", "Points"}, {"wireframe", "Wireframe"},
-                             {"hidden", "Hidden line"}, {"filled", "Filled"}, {"mesh", "Filled and mesh"},
-                             {"histogram", "Histogram"}};
+const QVector<Entry>& entries(PlotKind kind)
+{
+    static const QVector<Entry> surfaces{{"none", "No plot"},        {"points", "Points"},
+                                         {"wireframe", "Wireframe"}, {"hidden", "Hidden line"},
+                                         {"filled", "Filled"},       {"mesh", "Filled and mesh"},
+                                         {"histogram", "Histogram"}};
+    static const QVector<Entry> spectra{{"none", "No plot"},
+                                        {"points", "Points"},
+                                        {"lines", "Lines"},
+                                        {"filled", "Filled"},
+                                        {"frame", "Filled and frame"}};
+    return kind == PlotKind::Spectra ? spectra : surfaces;
+}
 
 } // namespace
 
-QStringList PlotStyles::names()
+QStringList PlotStyles::names(PlotKind kind)
 {
     QStringList names;
-    for (const Entry& entry : entries)
+    for (const Entry& entry : entries(kind))
         names.append(QLatin1String(entry.name));
     return names;
 }
 
-std::optional<int> PlotStyles::fromName(const QString& name)
+std::optional<int> PlotStyles::fromName(PlotKind kind, const QString& name)
 {
     const QString wanted = name.simplified();
     int style = 0;
-    for (const Entry& entry : entries) {
+    for (const Entry& entry : entries(kind)) {
         if (wanted.compare(QLatin1String(entry.name), Qt::CaseInsensitive) == 0 ||
             wanted.compare(QLatin1String(entry.text), Qt::CaseInsensitive) == 0)
             return style;

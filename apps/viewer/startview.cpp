@@ -7,12 +7,11 @@ namespace StartView {
 
 namespace {
 
-constexpr double reliefPart = 0.25;
 constexpr double mostUnlikeSides = 4.0;
 
 } // namespace
 
-Zel3D::ValueXYZ<double> scale(const Zel3D::Parallelepiped& box)
+Zel3D::ValueXYZ<double> scale(const Zel3D::Parallelepiped& box, double relief)
 {
     const QVector3D extent = box.maximum - box.minimum;
     const double x = std::abs(double(extent.x()));
@@ -23,12 +22,17 @@ Zel3D::ValueXYZ<double> scale(const Zel3D::Parallelepiped& box)
     const double longer = std::max(x, y);
     const double largest = std::max(longer, z);
     const bool alike = longer <= mostUnlikeSides * std::min(x, y);
-    return {largest / (alike ? longer : x), largest / (alike ? longer : y), reliefPart * largest / z};
+    return {largest / (alike ? longer : x), largest / (alike ? longer : y), relief * largest / z};
 }
 
 Zel3D::ValueXYZ<double> rotation()
 {
     return {45.0, 0.0, 25.0};
+}
+
+Zel3D::ValueXYZ<double> rotationWithYUp()
+{
+    return {110.0, -25.0, 0.0};
 }
 
 } // namespace StartView

@@ -2,15 +2,18 @@
 
 #include "core/types.h"
 
-/// How a grid stands in the window when it is opened: pure functions of its box.
+/// How data stand in the window when they are opened: pure functions.
 namespace StartView {
 
 /// The scale of the axes that shows a terrain well: x and y keep their proportions unless one is more than
-/// four times the other, and the heights take two fifths of the longer side. (1, 1, 1) for a box without
-/// extent in one direction.
-Zel3D::ValueXYZ<double> scale(const Zel3D::Parallelepiped& box);
+/// four times the other, and the heights take the part \a relief of the longer side. (1, 1, 1) for a box
+/// without extent in one direction.
+Zel3D::ValueXYZ<double> scale(const Zel3D::Parallelepiped& box, double relief = 0.25);
 
 /// The rotation in degrees: from the south-west and above.
 Zel3D::ValueXYZ<double> rotation();
+
+/// The same for a thing whose y axis points upwards.
+Zel3D::ValueXYZ<double> rotationWithYUp();
 
 } // namespace StartView

@@ -1,35 +1,18 @@
 #include "viewerplot.h"
 
+#include "core/gridmapping.h"
 #include "grid.h"
-#include "plots/baseplotsettings.h"
-#include "plots/viewfit.h"
+#include "mesh.h"
 #include "plotstyles.h"
-#include "scene/coordinatesystem.h"
 #include "startview.h"
-#include "terraingradient.h"
 #include "thinning.h"
 #include "view/light.h"
 
-#include <QGLFramebufferObject>
-#include <QSignalBlocker>
-
-#include <algorithm>
-#include <array>
-
 namespace {
-
-// Of the window's width or height at the start; the rest is for the numbers on the axes and the legend.
-constexpr double startPart = 0.68;
-
-// In radii of the view: to the left, where no legend stands.
-constexpr double startShift = -0.06;
 
 constexpr int linesAcross = 80;
 constexpr int pointsAcross = 130;
 constexpr int markersAcross = 60;
-
-// Smoothed edges cost four times the memory; beyond this many pixels they are not seen.
-constexpr qint64 mostSmoothedPixels = 32 * 1000 * 1000;
 
 int nodesAcross(int style)
 {
@@ -49,9 +32,9 @@ int nodesAcross(int style)
 
 } // namespace
 
-ViewerPlot::ViewerPlot(QWidget* parent)
-    : SHPlot(QStringLiteral("plot"), QStringLiteral("VORAN"), QStringLiteral("voranview"), parent)
+ViewerPlot::ViewerPlot(QWidget* parent) : ViewedPlot(parent)
 {
+    setStartRotation(StartView::rotation());
     setLook(Zel3D::Look::light());
     setPlotStyle(PlotStyles::Filled);
     setCylinderRibNumber(4);
@@ -65,87 +48,67 @@ ViewerPlot::ViewerPlot(QWidget* parent)
 
 void ViewerPlot::lightFromNorthWest()
 {
-    // As on shaded maps. Slopes in the shade keep four fifths of their colour, so that it can still be read.
     Zel3D::Light& sun = *getLights().first();
     sun.setPhi(135.0);
     sun.setTheta(60.0);
-    sun.setAmbient(QColor(160, 160, 160));
-    sun.setDiffuse(QColor(130, 130, 130));
+    // Together no more than the colour itself.
+    sun.setAmbient(QColor(120, 120, 120));
+    sun.setDiffuse(QColor(135, 135, 135));
     sun.setSpecular(Qt::black);
     sun.setOn(true);
     setLighting(true);
 }
 
-void ViewerPlot::setLook(const Zel3D::Look& look)
+void ViewerPlot::lightAsMap()
 {
-    Zel3D::Look terrain = look;
-    terrain.gradientName = tr("Terrain");
-    terrain.gradient = terrainGradient();
-    terrain.applyTo(*this);
+    // Slopes in the shade keep four fifths of their colour, so that it can still be read.
+    Zel3D::Light& sun = *getLights().first();
+    sun.setAmbient(QColor(160, 160, 160));
+    sun.setDiffuse(QColor(130, 130, 130));
 }
 
-void ViewerPlot::nameAxes(const Grid& grid)
-{
-    const QString height = grid.name.isEmpty() ? tr("z") : grid.name;
-    const QString names[] = {grid.xName, grid.yName,
-                             grid.unit.isEmpty() ? height : tr("%1 (%2)").arg(height, grid.unit)};
-    const std::array<Zel3D::AxisType, 4> parallels[] = {
-        {Zel3D::XFrontBottom, Zel3D::XFrontTop, Zel3D::XBackTop, Zel3D::XBackBottom},
-        {Zel3D::YLeftBottom, Zel3D::YLeftTop, Zel3D::YRightTop, Zel3D::YRightBottom},
-        {Zel3D::ZBackLeft, Zel3D::ZFrontLeft, Zel3D::ZBackRight, Zel3D::ZFrontRight}};
-    for (int direction = 0; direction < 3; ++direction) {
-        for (Zel3D::AxisType edge : parallels[direction])
-            getCoordinateSystem().getAxis(edge).getLabel().getSettings().setText(names[direction]);
-    }
-}
-
-bool ViewerPlot::load(Grid& grid, const QString& heading)
+bool ViewerPlot::load(Grid& grid)
 {
     m_columns = grid.columns;
     m_rows = grid.rows;
     adaptResolution(plotStyle());
-    const bool loaded =
-        loadFromData(grid.z(), static_cast<unsigned int>(grid.columns), static_cast<unsigned int>(grid.rows),
-                     grid.xMin, grid.xMax, grid.yMin, grid.yMax);
-    if (loaded) {
-        slotSetTitle(heading);
-        nameAxes(grid);
-    }
+    if (!loadFromData(grid.z(), static_cast<unsigned int>(grid.columns), static_cast<unsigned int>(grid.rows),
+                      grid.xMin, grid.xMax, grid.yMin, grid.yMax))
+        return false;
+    const QString height = grid.name.isEmpty() ? tr("z") : grid.name;
+    nameAxes({grid.xName, grid.yName, grid.unit.isEmpty() ? height : tr("%1 (%2)").arg(height, grid.unit)});
     resetView();
-    return loaded;
+    return true;
+}
+
+bool ViewerPlot::load(const Mesh& mesh)
+{
+    setBoxScaling(Zel3D::EqualUnits);
+    if (!loadFromData(mesh.vertices, mesh.cells, 1.0, 1.0))
+        return false;
+    nameAxes({tr("x"), tr("y"), tr("z")});
+    resetView();
+    return true;
+}
+
+bool ViewerPlot::load(Zel3D::GridMapping& mapping)
+{
+    setBoxScaling(Zel3D::EqualUnits);
+    if (!mapping.create(*this))
+        return false;
+    nameAxes({tr("x"), tr("y"), tr("z")});
+    resetView();
+    return true;
+}
+
+void ViewerPlot::setRelief(double part)
+{
+    m_relief = part;
 }
 
 Zel3D::ValueXYZ<double> ViewerPlot::recalculateAutoScale()
 {
-    return StartView::scale(getHull());
-}
-
-void ViewerPlot::resetView()
-{
-    setRotation(StartView::rotation());
-    setShift({0.0, 0.0, 0.0});
-    setViewportShift({startShift, 0.0});
-    fit();
-}
-
-void ViewerPlot::fit()
-{
-    const double aspect = double(std::max(width(), 1)) / std::max(height(), 1);
-    setZoom(Zel3D::ViewFit::zoom(getHull(), getScale(), getRotation(), aspect, startPart));
-    m_fittedZoom = getZoom();
-}
-
-void ViewerPlot::resizeEvent(QResizeEvent* event)
-{
-    // Until the person zooms, the data fill the window.
-    if (getZoom() == m_fittedZoom)
-        fit();
-    SHPlot::resizeEvent(event);
-}
-
-int ViewerPlot::plotStyle() const
-{
-    return getSettings().getStyle();
+    return m_relief ? StartView::scale(getHull(), *m_relief) : SHPlot::recalculateAutoScale();
 }
 
 bool ViewerPlot::setPlotStyle(int style)
@@ -163,27 +126,4 @@ void ViewerPlot::adaptResolution(int style)
     setResolution(step);
     // The bars of neighbouring drawn nodes touch.
     setCylinderMultiplier(step);
-}
-
-QImage ViewerPlot::picture(const QSize& pixels)
-{
-    if (!isInitialized())
-        glInit();
-    makeCurrent();
-    QGLFramebufferObjectFormat format;
-    format.setAttachment(QGLFramebufferObject::Depth);
-    const bool smoothed = qint64(pixels.width()) * pixels.height() <= mostSmoothedPixels;
-    format.setSamples(smoothed ? std::max(0, this->format().samples()) : 0);
-    QGLFramebufferObject buffer(pixels, format);
-    if (!buffer.isValid() || !buffer.bind())
-        return QImage();
-    // The mark of the mouse is no part of the picture.
-    const QSignalBlocker quiet(this);
-    const bool highlight = setPickHighlight(false);
-    resizeGL(pixels.width(), pixels.height());
-    setPickHighlight(highlight);
-    const QImage image = buffer.toImage().convertToFormat(QImage::Format_RGB32);
-    buffer.release();
-    resizeGL(qRound(width() * devicePixelRatioF()), qRound(height() * devicePixelRatioF()));
-    return image;
 }

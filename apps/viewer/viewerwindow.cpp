@@ -1,24 +1,30 @@
 #include "viewerwindow.h"
 
-#include "gridfile.h"
+#include "filesource.h"
+#include "formuladialog.h"
+#include "formulasource.h"
 #include "picturefile.h"
-#include "plotstyles.h"
-#include "view/plotstatusbar.h"
-#include "viewerplot.h"
+#include "plothost.h"
+#include "plotpage.h"
+#include "plots/baseplot.h"
+#include "recentfiles.h"
+#include "recentmenu.h"
+#include "startpage.h"
+#include "toroidsource.h"
+#include "watersource.h"
 
-#include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QScreen>
 #include <QSettings>
-#include <QToolBar>
+#include <QStackedWidget>
+#include <QStatusBar>
 
 namespace {
 
@@ -26,11 +32,6 @@ constexpr char geometryKey[] = "window/geometry";
 constexpr QSize usualSize(1000, 800);
 constexpr char folderKey[] = "window/folder";
 constexpr char stateKey[] = "window/state";
-constexpr char pickingKey[] = "window/picking";
-constexpr char lightingKey[] = "window/lighting";
-constexpr char styleKey[] = "window/style";
-constexpr char lookKey[] = "window/look";
-constexpr QSize barIcons(22, 22);
 
 QIcon icon(const char* name)
 {
@@ -55,29 +56,32 @@ public:
 
 } // namespace
 
-ViewerWindow::ViewerWindow()
-    : m_plot(new ViewerPlot),
-      m_description(new QLabel(tr("Open a grid file with File, Open or drop one here."))),
-      m_styles(new QActionGroup(this)),
-      m_looks(new QActionGroup(this))
+ViewerWindow::ViewerWindow() : m_preferences(PlotPreferences::stored()), m_stack(new QStackedWidget)
 {
-    setCentralWidget(m_plot);
+    setCentralWidget(m_stack);
     setWindowIcon(icon("voranview"));
-    setStatusBar(new Zel3D::PlotStatusBar(m_plot, this));
     setAcceptDrops(true);
-    setWindowTitle(tr("voranview"));
-    m_description->setObjectName("description");
-    // As long as it is, the text must not keep the window wide.
-    m_description->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    statusBar()->addWidget(m_description, 1);
     createFileMenu();
-    createPlotMenu();
-    dockToolBars();
+    m_plotMenu = menuBar()->addMenu(tr("&Plot"));
     createViewMenu();
-    connect(m_plot, &ViewerPlot::plotStyleChanged, this, &ViewerWindow::showStyle);
-    showStyle(m_plot->plotStyle());
+    createStartPage();
     restore();
-    m_plot->setFocus();
+    removePage();
+}
+
+ViewerWindow::~ViewerWindow()
+{
+    // Before the menus and bars that it gives back go.
+    m_host.reset();
+}
+
+void ViewerWindow::createStartPage()
+{
+    const QString folder = Examples::folder(QCoreApplication::applicationDirPath());
+    m_startPage = new StartPage(Examples::all(folder), m_openAction, m_newActions);
+    m_stack->addWidget(m_startPage);
+    connect(m_startPage, &StartPage::fileChosen, this, &ViewerWindow::openFile, Qt::QueuedConnection);
+    connect(m_recentMenu, &RecentMenu::cleared, m_startPage, &StartPage::refresh);
 }
 
 void ViewerWindow::restore()
@@ -85,68 +89,73 @@ void ViewerWindow::restore()
     const QSettings settings;
     if (!restoreGeometry(settings.value(geometryKey).toByteArray()))
         resize(usualSize.boundedTo(QGuiApplication::primaryScreen()->availableSize()));
-    restoreState(settings.value(stateKey).toByteArray());
-    m_plot->setSelecting(settings.value(pickingKey, true).toBool());
-    m_plot->setLighting(settings.value(lightingKey, m_plot->isLighting()).toBool());
-    const int style = settings.value(styleKey, m_plot->plotStyle()).toInt();
-    if (style <= PlotStyles::Histogram)
-        m_plot->setPlotStyle(style);
-    const QString look = settings.value(lookKey).toString();
-    for (QAction* action : m_looks->actions()) {
-        if (action->text() == look && !action->isChecked())
-            action->trigger();
-    }
+    m_barState = settings.value(stateKey).toByteArray();
     m_fullScreenAction->setChecked(isFullScreen());
 }
 
-void ViewerWindow::remember() const
+void ViewerWindow::remember()
 {
+    if (m_page) {
+        m_preferences.takeFrom(m_page->view());
+        m_barState = saveState();
+    }
+    m_preferences.store();
     QSettings settings;
     settings.setValue(geometryKey, saveGeometry());
-    settings.setValue(stateKey, saveState());
-    settings.setValue(pickingKey, m_plot->isSelecting());
-    settings.setValue(lightingKey, m_plot->isLighting());
-    settings.setValue(styleKey, m_plot->plotStyle());
-    settings.setValue(lookKey, m_looks->checkedAction()->text());
+    settings.setValue(stateKey, m_barState);
 }
 
-void ViewerWindow::dockToolBars()
+void ViewerWindow::createFileMenu()
 {
-    for (Zel3D::PlotToolBarType type :
-         {Zel3D::PlotStyleToolBar, Zel3D::ViewsToolBar, Zel3D::GridStyleToolBar}) {
-        QToolBar* bar = m_plot->getToolBar(type);
-        bar->setIconSize(barIcons);
-        addToolBar(bar);
-    }
+    QMenu* menu = menuBar()->addMenu(tr("&File"));
+    menu->addMenu(createNewMenu());
+    m_openAction =
+        menu->addAction(icon("open"), tr("&Open..."), this, &ViewerWindow::chooseFile, QKeySequence::Open);
+    m_recentMenu = new RecentMenu(this);
+    menu->addMenu(m_recentMenu);
+    connect(m_recentMenu, &RecentMenu::chosen, this, &ViewerWindow::openFile);
+    menu->addSeparator();
+    m_saveAction = menu->addAction(icon("savepicture"), tr("&Save picture..."), this,
+                                   &ViewerWindow::savePicture, QKeySequence::Save);
+    menu->addSeparator();
+    m_closeAction = menu->addAction(tr("&Close plot"), this, &ViewerWindow::closePlot,
+                                    QKeySequence(Qt::CTRL + Qt::Key_W));
+    menu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence(Qt::CTRL + Qt::Key_Q));
+}
+
+QMenu* ViewerWindow::createNewMenu()
+{
+    auto* menu = new QMenu(tr("&New"), this);
+    QAction* formula =
+        menu->addAction(icon("wireframe"), tr("From &formula..."), this, &ViewerWindow::askFormula,
+                        QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_F));
+    formula->setIconText(tr("Formula"));
+    formula->setStatusTip(tr("z as a function of x and y"));
+    QAction* toroid = menu->addAction(icon("hiddenline"), tr("&Toroid"), this,
+                                      [this] { showPlot(std::make_unique<ToroidSource>()); });
+    toroid->setStatusTip(tr("A ring with a tilted tube"));
+    QAction* water = menu->addAction(icon("points"), tr("&Water surface"), this,
+                                     [this] { showPlot(std::make_unique<WaterSource>()); });
+    water->setStatusTip(tr("Ripples around a falling stone"));
+    m_newActions = {formula, toroid, water};
+    return menu;
 }
 
 void ViewerWindow::createViewMenu()
 {
-    QMenu* menu = menuBar()->addMenu(tr("&View"));
-    QAction* reset = menu->addAction(icon("resetview"), tr("&Reset view"), this, &ViewerWindow::resetView,
-                                     QKeySequence(Qt::CTRL + Qt::Key_R));
-    reset->setStatusTip(tr("Rotation, shift and zoom of the start"));
-    menu->addSeparator();
-    int number = 1;
-    for (QAction* action : m_plot->getToolBar(Zel3D::ViewsToolBar)->actions()) {
-        action->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+%1").arg(number++)));
-        menu->addAction(action);
-    }
-    menu->addSeparator();
-    QMenu* planes = menu->addMenu(tr("&Grid planes"));
-    planes->addActions(m_plot->getToolBar(Zel3D::GridStyleToolBar)->actions());
-    menu->addSeparator();
-    QMenu* bars = menu->addMenu(tr("Tool &bars"));
-    for (QToolBar* bar : findChildren<QToolBar*>())
-        bars->addAction(bar->toggleViewAction());
-    QAction* status = addSwitch(*menu, tr("&Status bar"), QKeySequence());
-    status->setChecked(true);
-    connect(status, &QAction::triggered, statusBar(), &QWidget::setVisible);
-    m_fullScreenAction = addSwitch(*menu, tr("F&ull screen"), QKeySequence(Qt::Key_F11));
+    m_viewMenu = menuBar()->addMenu(tr("&View"));
+    const auto addSwitch = [this](const QString& text) {
+        QAction* action = m_viewMenu->addAction(text);
+        action->setCheckable(true);
+        return action;
+    };
+    m_statusAction = addSwitch(tr("&Status bar"));
+    m_statusAction->setChecked(true);
+    connect(m_statusAction, &QAction::triggered, this, [this](bool on) { statusBar()->setVisible(on); });
+    m_fullScreenAction = addSwitch(tr("F&ull screen"));
+    m_fullScreenAction->setShortcut(QKeySequence(Qt::Key_F11));
     m_fullScreenAction->setIcon(icon("fullscreen"));
     connect(m_fullScreenAction, &QAction::triggered, this, &ViewerWindow::showFullScreen);
-    // What the menus offer works while they are hidden, too.
-    addActions(menu->actions());
 }
 
 void ViewerWindow::showFullScreen(bool on)
@@ -154,182 +163,114 @@ void ViewerWindow::showFullScreen(bool on)
     setWindowState(windowState().setFlag(Qt::WindowFullScreen, on));
 }
 
-void ViewerWindow::createFileMenu()
+void ViewerWindow::removePage()
 {
-    QMenu* menu = menuBar()->addMenu(tr("&File"));
-    menu->addAction(icon("open"), tr("&Open..."), this, &ViewerWindow::chooseFile, QKeySequence::Open);
-    m_saveAction = menu->addAction(icon("savepicture"), tr("&Save picture..."), this,
-                                   &ViewerWindow::savePicture, QKeySequence::Save);
+    if (m_page) {
+        m_preferences.takeFrom(m_page->view());
+        m_barState = saveState();
+    }
+    m_host.reset();
+    m_page.reset();
+    m_plotMenu->menuAction()->setEnabled(false);
     m_saveAction->setEnabled(false);
-    menu->addSeparator();
-    menu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence(Qt::CTRL + Qt::Key_Q));
+    m_closeAction->setEnabled(false);
+    m_statusAction->setEnabled(false);
+    setWindowTitle(tr("voranview"));
 }
 
-QAction* ViewerWindow::addSwitch(QMenu& menu, const QString& text, const QKeySequence& shortcut)
+void ViewerWindow::placePage(std::unique_ptr<PlotPage> page)
 {
-    QAction* action = menu.addAction(text);
-    action->setCheckable(true);
-    action->setShortcut(shortcut);
-    return action;
+    removePage();
+    m_page = std::move(page);
+    m_preferences.applyTo(m_page->view());
+    m_stack->addWidget(m_page.get());
+    m_host = std::make_unique<PlotHost>(*this, *m_page, *m_plotMenu, *m_viewMenu, m_statusAction);
+    restoreState(m_barState);
+    statusBar()->setVisible(m_statusAction->isChecked());
+    m_plotMenu->menuAction()->setEnabled(true);
+    m_saveAction->setEnabled(true);
+    m_closeAction->setEnabled(true);
+    m_statusAction->setEnabled(true);
+    setWindowTitle(tr("%1 - voranview").arg(m_page->source().name()));
+    m_stack->setCurrentWidget(m_page.get());
+    m_page->setFocus();
 }
 
-void ViewerWindow::addStyleActions(QMenu& menu)
+bool ViewerWindow::present(std::unique_ptr<PlotSource> source, QString& error)
 {
-    const QString texts[] = {tr("&No plot"), tr("&Points"),          tr("&Wireframe"), tr("&Hidden line"),
-                             tr("&Filled"),  tr("Filled and &mesh"), tr("H&istogram")};
-    int style = PlotStyles::NoPlot;
-    for (const QString& text : texts) {
-        QAction* action = addSwitch(menu, text, QKeySequence(QStringLiteral("Ctrl+%1").arg(style)));
-        action->setData(style++);
-        m_styles->addAction(action);
+    const WaitCursor waiting;
+    std::unique_ptr<PlotView> view = source->open();
+    if (!view) {
+        error = source->error();
+        return false;
     }
-    connect(m_styles, &QActionGroup::triggered, this,
-            [this](const QAction* action) { m_plot->slotSetPlotStyle(action->data().toInt()); });
-}
-
-void ViewerWindow::createPlotMenu()
-{
-    QMenu* menu = menuBar()->addMenu(tr("&Plot"));
-    addStyleActions(*menu);
-    menu->addSeparator();
-    m_meshAction = addSwitch(*menu, tr("M&esh lines"), QKeySequence(Qt::CTRL + Qt::Key_M));
-    connect(m_meshAction, &QAction::triggered, m_plot, [this](bool on) {
-        m_plot->slotSetPlotStyle(on ? PlotStyles::FilledAndMesh : PlotStyles::Filled);
-    });
-    m_pickingAction = addSwitch(*menu, tr("Pi&ck values"), QKeySequence(Qt::CTRL + Qt::Key_K));
-    m_pickingAction->setIcon(icon("select"));
-    m_pickingAction->setStatusTip(tr("Show the value under the cursor"));
-    connect(m_pickingAction, &QAction::triggered, m_plot, &ViewerPlot::slotSetSelecting);
-    connect(m_plot, &ViewerPlot::selectingChanged, m_pickingAction, &QAction::setChecked);
-    m_lightingAction = addSwitch(*menu, tr("&Lighting"), QKeySequence(Qt::CTRL + Qt::Key_L));
-    connect(m_lightingAction, &QAction::triggered, m_plot, &ViewerPlot::slotSetLighting);
-    connect(m_plot, &ViewerPlot::lightingChanged, m_lightingAction, &QAction::setChecked);
-    m_lightingAction->setChecked(m_plot->isLighting());
-    m_perspectiveAction = addSwitch(*menu, tr("Perspecti&ve"), QKeySequence(Qt::CTRL + Qt::Key_E));
-    connect(m_perspectiveAction, &QAction::triggered, m_plot,
-            [this](bool on) { m_plot->slotSetProjectionType(on ? Zel3D::Perspective : Zel3D::Orthogonal); });
-    connect(
-        m_plot, &ViewerPlot::projectionTypeChanged, m_perspectiveAction,
-        [this](Zel3D::ProjectionType type) { m_perspectiveAction->setChecked(type == Zel3D::Perspective); });
-    addScalingActions(*menu->addMenu(tr("&Scaling")));
-    addLookActions(*menu->addMenu(tr("Loo&k")));
-}
-
-void ViewerWindow::addScalingActions(QMenu& menu)
-{
-    const QString texts[] = {tr("&Automatic"), tr("&Equal units on all axes"), tr("By &hand")};
-    auto* group = new QActionGroup(this);
-    for (int scaling = Zel3D::CubeScaling; scaling <= Zel3D::ManualScaling; ++scaling) {
-        QAction* action = addSwitch(menu, texts[scaling], QKeySequence());
-        action->setData(scaling);
-        action->setChecked(scaling == m_plot->getBoxScaling());
-        group->addAction(action);
-    }
-    connect(group, &QActionGroup::triggered, m_plot, [this](const QAction* action) {
-        m_plot->slotSetBoxScaling(Zel3D::BoxScaling(action->data().toInt()));
-    });
-    connect(m_plot, &ViewerPlot::boxScalingChanged, group,
-            [group](Zel3D::BoxScaling scaling) { group->actions().at(scaling)->setChecked(true); });
-}
-
-void ViewerWindow::addLookActions(QMenu& menu)
-{
-    const QList<Zel3D::Look> looks = Zel3D::Look::all();
-    for (const Zel3D::Look& look : looks) {
-        QAction* action = addSwitch(menu, look.name, QKeySequence());
-        m_looks->addAction(action);
-        connect(action, &QAction::triggered, m_plot, [this, look] {
-            m_plot->setLook(look);
-            m_plot->update();
-        });
-    }
-    m_looks->actions().first()->setChecked(true);
-}
-
-void ViewerWindow::resetView()
-{
-    m_plot->resetView();
-    m_plot->update();
-}
-
-void ViewerWindow::showStyle(int style)
-{
-    const QList<QAction*> actions = m_styles->actions();
-    for (QAction* action : actions) {
-        if (action->data().toInt() == style)
-            action->setChecked(true);
-    }
-    const bool surface = style == PlotStyles::Filled || style == PlotStyles::FilledAndMesh;
-    m_meshAction->setEnabled(surface);
-    m_meshAction->setChecked(style == PlotStyles::FilledAndMesh || style == PlotStyles::Wireframe ||
-                             style == PlotStyles::HiddenLine);
+    const QString file = source->filePath();
+    placePage(std::make_unique<PlotPage>(std::move(source), std::move(view)));
+    // Some names of grids inside files are no paths.
+    if (QFileInfo::exists(file))
+        RecentFiles::add(file);
+    return true;
 }
 
 bool ViewerWindow::open(const QString& path, int band, QString& error)
 {
-    const WaitCursor waiting;
-    Grid grid;
-    GridFile reader(path);
-    if (!reader.read(grid, band)) {
-        error = reader.error();
-        return false;
-    }
-    if (!m_plot->load(grid, QFileInfo(path).fileName())) {
-        error = tr("\"%1\" cannot be drawn.").arg(path);
-        return false;
-    }
-    m_saveAction->setEnabled(true);
-    describe(path, grid);
-    if (m_plot->isInitialized())
-        m_plot->updateGL();
-    return true;
-}
-
-void ViewerWindow::describe(const QString& path, const Grid& grid)
-{
-    m_fileName = QFileInfo(path).fileName();
-    setWindowTitle(tr("%1 - voranview").arg(m_fileName));
-    const auto range = [](double lower, double upper) {
-        return tr("%1 to %2").arg(lower, 0, 'g', 6).arg(upper, 0, 'g', 6);
-    };
-    QString text =
-        tr("%1 x %2 nodes, x %3, y %4, z %5")
-            .arg(grid.columns)
-            .arg(grid.rows)
-            .arg(range(grid.xMin, grid.xMax), range(grid.yMin, grid.yMax), range(grid.zMin, grid.zMax));
-    if (!grid.unit.isEmpty())
-        text += ' ' + grid.unit;
-    const std::size_t missing = grid.heights.size() - grid.validNodes;
-    if (missing > 0)
-        text = tr("%1, %2 missing").arg(text).arg(missing);
-    m_description->setText(text);
-    m_description->setToolTip(text);
+    return present(sourceOfFile(path, band), error);
 }
 
 void ViewerWindow::openFile(const QString& path)
 {
     QString error;
-    if (!open(path, 1, error))
-        QMessageBox::warning(this, tr("Open"), error);
+    if (open(path, 1, error))
+        return;
+    if (!QFileInfo::exists(path))
+        RecentFiles::remove(path);
+    QMessageBox::warning(this, tr("Open"), error);
+}
+
+void ViewerWindow::showPlot(std::unique_ptr<PlotSource> source)
+{
+    QString error;
+    if (!present(std::move(source), error))
+        QMessageBox::warning(this, tr("New"), error);
+}
+
+void ViewerWindow::closePlot()
+{
+    removePage();
+    m_stack->setCurrentWidget(m_startPage);
 }
 
 void ViewerWindow::chooseFile()
 {
+    const QString filters[] = {
+        tr("All data (*)"),
+        tr("Grids (*.asc *.tif *.tiff *.vrt *.nc *.grd *.img *.dem *.hgt *.xyz *.bil *.flt)"),
+        tr("Spectra (*.csv *.tsv *.txt *.dat)"),
+        tr("Meshes (*.off *.obj *.ply *.stl *.3ds *.dae *.gltf *.glb *.fbx *.x3d)")};
     QSettings settings;
     const QString path =
-        QFileDialog::getOpenFileName(this, tr("Open a grid file"), settings.value(folderKey).toString());
+        QFileDialog::getOpenFileName(this, tr("Open"), settings.value(folderKey).toString(),
+                                     QStringList(std::begin(filters), std::end(filters)).join(";;"));
     if (path.isEmpty())
         return;
     settings.setValue(folderKey, QFileInfo(path).absolutePath());
     openFile(path);
 }
 
+void ViewerWindow::askFormula()
+{
+    FormulaDialog dialog(this);
+    if (dialog.exec() == QDialog::Accepted)
+        showPlot(std::make_unique<FormulaSource>(dialog.formula(), dialog.area()));
+}
+
 void ViewerWindow::savePicture()
 {
     QSettings settings;
+    const QString shown = m_page->source().filePath();
+    const QString base = shown.isEmpty() ? tr("plot") : QFileInfo(shown).completeBaseName();
     const QString suggestion =
-        QDir(settings.value(folderKey).toString())
-            .filePath(QFileInfo(m_fileName).completeBaseName() + QLatin1String(".png"));
+        QDir(settings.value(folderKey).toString()).filePath(base + QLatin1String(".png"));
     QFileDialog dialog(this, tr("Save picture"), suggestion, tr("Pictures (*.png)"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix("png");
@@ -338,7 +279,8 @@ void ViewerWindow::savePicture()
         return;
     const QString path = dialog.selectedFiles().value(0);
     PictureFile file(path);
-    if (file.write(m_plot->picture(m_plot->size() * m_plot->devicePixelRatioF())))
+    const Zel3D::BasePlot& plot = m_page->plot();
+    if (file.write(m_page->view().picture(plot.size() * plot.devicePixelRatioF())))
         statusBar()->showMessage(tr("Saved %1").arg(path), 5000);
     else
         QMessageBox::warning(this, tr("Save picture"), file.error());
@@ -346,7 +288,7 @@ void ViewerWindow::savePicture()
 
 void ViewerWindow::fitPlot(const QSize& size)
 {
-    resize(this->size() + size - m_plot->size());
+    resize(m_page ? this->size() + size - m_page->plot().size() : size);
 }
 
 void ViewerWindow::dragEnterEvent(QDragEnterEvent* event)

@@ -1,30 +1,44 @@
 #pragma once
 
+#include "plotpreferences.h"
+
 #include <QMainWindow>
 
-class QAction;
-class QActionGroup;
-class QLabel;
-class ViewerPlot;
-struct Grid;
+#include <memory>
 
-/// The viewer's window: one plot, opened from the menu or by dropping a file, with its tool bars and status
-/// bar and the menus that change it. The window comes back as it was left.
+class PlotHost;
+class PlotPage;
+class PlotSource;
+class QStackedWidget;
+class RecentMenu;
+class StartPage;
+
+/// The viewer's window: a start page or one plot, opened from the menu or by dropping a file, with its tool
+/// bars and status bar and the menus that change it. The window comes back as it was left.
 class ViewerWindow : public QMainWindow
 {
     Q_OBJECT
 public:
     ViewerWindow();
+    ~ViewerWindow() override;
 
-    /// Shows a grid file. False when it cannot be shown: the plot stays as it was and \a error says why.
+    /// Shows a file of any kind; the band is for grids. False when it cannot be shown: the plot stays as it
+    /// was and \a error says why.
     bool open(const QString& path, int band, QString& error);
+    /// The same with any source.
+    bool present(std::unique_ptr<PlotSource> source, QString& error);
     /// Resizes the shown window so that the plot gets this size, as far as the screen has room.
     void fitPlot(const QSize& size);
-    ViewerPlot& plot() { return *m_plot; }
+    /// The plot with its source; null on the start page.
+    PlotPage* page() const { return m_page.get(); }
+    /// What the next plot takes from the person's choices.
+    PlotPreferences& preferences() { return m_preferences; }
 
 public slots:
-    /// Shows the first band of a grid file, or says in a box why it cannot be shown.
+    /// Shows the first band of a grid file or another file, or says in a box why it cannot be shown.
     void openFile(const QString& path);
+    /// Back to the start page.
+    void closePlot();
 
 protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -33,31 +47,32 @@ protected:
 
 private:
     void createFileMenu();
-    void createPlotMenu();
+    QMenu* createNewMenu();
     void createViewMenu();
-    void dockToolBars();
+    void createStartPage();
+    void placePage(std::unique_ptr<PlotPage> page);
+    void removePage();
+    void showPlot(std::unique_ptr<PlotSource> source);
     void showFullScreen(bool on);
     void restore();
-    void remember() const;
-    void addStyleActions(QMenu& menu);
-    void addScalingActions(QMenu& menu);
-    void addLookActions(QMenu& menu);
-    QAction* addSwitch(QMenu& menu, const QString& text, const QKeySequence& shortcut);
+    void remember();
     void chooseFile();
+    void askFormula();
     void savePicture();
-    void resetView();
-    void showStyle(int style);
-    void describe(const QString& path, const Grid& grid);
 
-    ViewerPlot* m_plot;
-    QLabel* m_description;
-    QActionGroup* m_styles;
-    QActionGroup* m_looks;
+    PlotPreferences m_preferences;
+    QStackedWidget* m_stack;
+    StartPage* m_startPage = nullptr;
+    std::unique_ptr<PlotPage> m_page;
+    std::unique_ptr<PlotHost> m_host;
+    QByteArray m_barState;
+    QMenu* m_plotMenu = nullptr;
+    QMenu* m_viewMenu = nullptr;
+    RecentMenu* m_recentMenu = nullptr;
+    QList<QAction*> m_newActions;
+    QAction* m_openAction = nullptr;
     QAction* m_saveAction = nullptr;
-    QAction* m_pickingAction = nullptr;
+    QAction* m_closeAction = nullptr;
+    QAction* m_statusAction = nullptr;
     QAction* m_fullScreenAction = nullptr;
-    QAction* m_meshAction = nullptr;
-    QAction* m_lightingAction = nullptr;
-    QAction* m_perspectiveAction = nullptr;
-    QString m_fileName;
 };

@@ -1,4 +1,5 @@
 #include "harness/harness.h"
+#include "plotpage.h"
 #include "plotstyles.h"
 #include "scene/coordinatesystem.h"
 #include "scene/legend.h"
@@ -36,6 +37,11 @@ QString boxText(const Act& act)
     });
     act();
     return text;
+}
+
+ViewerPlot& plotOf(const ViewerWindow& window)
+{
+    return dynamic_cast<ViewerPlot&>(window.page()->view());
 }
 
 /// Part of the pixels of a picture that find no pixel of about their colour in another one at their place or
@@ -86,7 +92,8 @@ void TestViewerWindow::init()
     m_window = std::make_unique<ViewerWindow>();
     QVERIFY(harness::show(*m_window, 500, 400));
     m_window->openFile(m_example);
-    QCOMPARE(m_window->plot().getHull().maximum.z(), 1076.0F);
+    QCoreApplication::processEvents();
+    QCOMPARE(plotOf(*m_window).getHull().maximum.z(), 1076.0F);
 }
 
 void TestViewerWindow::cleanup()
@@ -110,24 +117,24 @@ void TestViewerWindow::titleAndStatusTellOfTheGrid()
     QVERIFY(m_window->windowTitle().startsWith("jacksboro_dem.asc"));
     const QString status = m_window->statusBar()->findChild<QLabel*>("description")->text();
     QVERIFY2(status.contains("403 x 344") && status.contains("236 to 1076"), qPrintable(status));
-    QCOMPARE(m_window->plot().getTitle().getSettings().getText(), QString("jacksboro_dem.asc"));
+    QCOMPARE(plotOf(*m_window).getTitle().getSettings().getText(), QString("jacksboro_dem.asc"));
     // The same on every edge of a direction.
     const QPair<Zel3D::AxisType, QString> names[] = {{Zel3D::XBackTop, "Longitude (\u00b0)"},
                                                      {Zel3D::XFrontBottom, "Longitude (\u00b0)"},
                                                      {Zel3D::YLeftTop, "Latitude (\u00b0)"},
                                                      {Zel3D::ZBackRight, "Elevation (m)"}};
-    Zel3D::CoordinateSystem& box = m_window->plot().getCoordinateSystem();
+    Zel3D::CoordinateSystem& box = plotOf(*m_window).getCoordinateSystem();
     for (const auto& name : names)
         QCOMPARE(box.getAxis(name.first).getLabel().getSettings().getText(), name.second);
 }
 
 void TestViewerWindow::failureLeavesThePlot()
 {
-    const QImage before = harness::grab(m_window->plot());
+    const QImage before = harness::grab(plotOf(*m_window));
     const QString text = boxText([this] { m_window->openFile("missing.asc"); });
     QCOMPARE(text, QString("\"missing.asc\" does not exist."));
     QVERIFY(m_window->windowTitle().startsWith("jacksboro_dem.asc"));
-    QCOMPARE(harness::grab(m_window->plot()), before);
+    QCOMPARE(harness::grab(plotOf(*m_window)), before);
 }
 
 void TestViewerWindow::droppedFileOpens()
@@ -145,13 +152,13 @@ void TestViewerWindow::droppedFileOpens()
     QDropEvent drop(QPointF(50, 50), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(m_window.get(), &drop);
     QVERIFY(m_window->windowTitle().startsWith("small.asc"));
-    QCOMPARE(m_window->plot().getTitle().getSettings().getText(), QString("small.asc"));
-    QCOMPARE(m_window->plot().getHull().maximum.z(), 4.0F);
+    QCOMPARE(plotOf(*m_window).getTitle().getSettings().getText(), QString("small.asc"));
+    QCOMPARE(plotOf(*m_window).getHull().maximum.z(), 4.0F);
 }
 
 void TestViewerWindow::menuAndPlotFollowEachOther()
 {
-    ViewerPlot& plot = m_window->plot();
+    ViewerPlot& plot = plotOf(*m_window);
     QVERIFY(action("Filled").isChecked());
     action("Mesh lines").trigger();
     QCOMPARE(plot.plotStyle(), int(PlotStyles::FilledAndMesh));
@@ -178,18 +185,18 @@ void TestViewerWindow::menuAndPlotFollowEachOther()
 
 void TestViewerWindow::resetBringsTheStartViewBack()
 {
-    const QImage start = harness::grab(m_window->plot());
-    m_window->plot().setRotation({80, 10, -70});
-    m_window->plot().setZoom(3.0);
-    m_window->plot().setViewportShift({0.1, 0.2});
-    QVERIFY(harness::grab(m_window->plot()) != start);
+    const QImage start = harness::grab(plotOf(*m_window));
+    plotOf(*m_window).setRotation({80, 10, -70});
+    plotOf(*m_window).setZoom(3.0);
+    plotOf(*m_window).setViewportShift({0.1, 0.2});
+    QVERIFY(harness::grab(plotOf(*m_window)) != start);
     action("Reset view").trigger();
-    QCOMPARE(harness::grab(m_window->plot()), start);
+    QCOMPARE(harness::grab(plotOf(*m_window)), start);
 }
 
 void TestViewerWindow::pictureIsThePlotOnTheScreen()
 {
-    ViewerPlot& plot = m_window->plot();
+    ViewerPlot& plot = plotOf(*m_window);
     const QImage screen = harness::grab(plot).convertToFormat(QImage::Format_RGB32);
     QCOMPARE(plot.picture(QSize(321, 123)).size(), QSize(321, 123));
     const QImage picture = plot.picture(plot.size());
@@ -211,18 +218,19 @@ void TestViewerWindow::windowComesBackAsItWasLeft()
     action("Pick values").trigger();
     action("Lighting").trigger();
     action("Dark").trigger();
-    m_window->plot().slotSetPlotStyle(PlotStyles::Wireframe);
-    m_window->plot().getToolBar(Zel3D::ViewsToolBar)->setVisible(false);
-    m_window->addToolBar(Qt::LeftToolBarArea, m_window->plot().getToolBar(Zel3D::PlotStyleToolBar));
+    plotOf(*m_window).slotSetPlotStyle(PlotStyles::Wireframe);
+    plotOf(*m_window).getToolBar(Zel3D::ViewsToolBar)->setVisible(false);
+    m_window->addToolBar(Qt::LeftToolBarArea, plotOf(*m_window).getToolBar(Zel3D::PlotStyleToolBar));
     m_window->close();
     ViewerWindow again;
     again.show();
-    QVERIFY(!again.plot().isSelecting());
-    QVERIFY(!again.plot().isLighting());
-    QCOMPARE(again.plot().plotStyle(), int(PlotStyles::Wireframe));
-    QCOMPARE(again.plot().getBackgroundColor(), Zel3D::Look::dark().background);
-    QVERIFY(!again.plot().getToolBar(Zel3D::ViewsToolBar)->isVisible());
-    QCOMPARE(again.toolBarArea(again.plot().getToolBar(Zel3D::PlotStyleToolBar)), Qt::LeftToolBarArea);
+    again.openFile(m_example);
+    QVERIFY(!plotOf(again).isSelecting());
+    QVERIFY(!plotOf(again).isLighting());
+    QCOMPARE(plotOf(again).plotStyle(), int(PlotStyles::Wireframe));
+    QCOMPARE(plotOf(again).getBackgroundColor(), Zel3D::Look::dark().background);
+    QVERIFY(!plotOf(again).getToolBar(Zel3D::ViewsToolBar)->isVisible());
+    QCOMPARE(again.toolBarArea(plotOf(again).getToolBar(Zel3D::PlotStyleToolBar)), Qt::LeftToolBarArea);
 }
 
 int main(int argc, char* argv[])

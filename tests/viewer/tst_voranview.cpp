@@ -36,7 +36,8 @@ Outcome runViewer(const QStringList& arguments, Screen screen = Screen::Virtual)
             QString::fromLocal8Bit(process.readAllStandardError())};
 }
 
-const QString example = QString(VORAN_SOURCE_DIR) + "/examples/data/jacksboro_dem.asc";
+const QString examples = QString(VORAN_SOURCE_DIR) + "/examples/data/";
+const QString example = examples + "jacksboro_dem.asc";
 
 /// How many pixels of a picture are of a kind.
 template <class Kind>
@@ -79,12 +80,17 @@ private slots:
     void refusalsAreOneSentence();
     void pictureHasTheSizeAndTheRelief_data();
     void pictureHasTheSizeAndTheRelief();
+    void everyKindMakesAPicture_data();
+    void everyKindMakesAPicture();
+    void notesGoToTheErrors();
     void stylesDiffer();
     void looksDiffer();
     void failureLeavesAnExistingPicture();
 
 private:
     QTemporaryDir m_folder;
+    QTemporaryDir m_files;
+    const QString m_broken = m_files.filePath("broken.csv");
 };
 
 void TestVoranview::wordsNeedNoDisplay_data()
@@ -115,6 +121,8 @@ void TestVoranview::refusalsAreOneSentence_data()
     QTest::addColumn<Screen>("screen");
     QTest::addColumn<QString>("words");
     const QString picture = m_folder.filePath("refused.png");
+    QFile broken(m_broken);
+    QVERIFY(broken.open(QIODevice::WriteOnly) && broken.write("no,numbers\nat,all\n") > 0);
     QTest::newRow("unknown style")
         << QStringList{"--style", "fancy", example} << Screen::None
         << "\"fancy\"; the styles are none, points, wireframe, hidden, filled, mesh, "
@@ -127,9 +135,28 @@ void TestVoranview::refusalsAreOneSentence_data()
     QTest::newRow("size without form") << QStringList{"--size", "800", example} << Screen::None << "\"800\"";
     QTest::newRow("band") << QStringList{"--band", "0", example} << Screen::None << "\"0\"";
     QTest::newRow("unknown option") << QStringList{"--fast"} << Screen::None << "fast";
-    QTest::newRow("two files") << QStringList{"a.asc", "b.asc"} << Screen::None << "Only one grid file";
+    QTest::newRow("two files") << QStringList{"a.asc", "b.asc"} << Screen::None << "Only one file";
     QTest::newRow("picture of nothing")
-        << QStringList{"--png", picture} << Screen::None << "needs a grid file";
+        << QStringList{"--png", picture} << Screen::None << "needs a file or a formula";
+    const auto refusal = [](const char* name, const QStringList& arguments, const QString& words) {
+        QTest::newRow(name) << arguments << Screen::None << words;
+    };
+    refusal("style of surfaces for spectra", {"--style", "mesh", examples + "gasoline_nir.csv"},
+            "the styles are none, points, lines, filled, frame.");
+    refusal("file and formula", {example, "--function", "x"}, "only one of them");
+    refusal("formula with a fault", {"--function", "sin(x)+*y"}, "at column 8");
+    refusal("empty formula", {"--function", ""}, "The formula is empty.");
+    refusal("range without width", {"--function", "x", "--range", "3:-3"}, "\"3:-3\" has no width");
+    refusal("range without form", {"--function", "x", "--range", "3"}, "\"3\" is no range");
+    refusal("mesh of nothing", {"--function", "x", "--mesh", "0x5"}, "\"0x5\"");
+    refusal("range for a file", {"--range", "-3:3", example}, "--range is for a formula");
+    refusal("mesh for a file", {"--mesh", "20", example}, "--mesh is for a formula");
+    refusal("band of spectra", {"--band", "1", examples + "gasoline_nir.csv"}, "--band is for grid files");
+    QTest::newRow("mesh larger than memory")
+        << QStringList{"--function", "x", "--mesh", "900000x900000", "--png", picture} << Screen::Virtual
+        << "of memory for 900000 x 900000 nodes";
+    QTest::newRow("broken spectra") << QStringList{m_broken, "--png", picture} << Screen::Virtual
+                                    << "broken.csv";
     QTest::newRow("no display") << QStringList{example} << Screen::None << "set DISPLAY";
     QTest::newRow("display that is not there") << QStringList{example} << Screen::Absent << "set DISPLAY";
     QTest::newRow("missing file") << QStringList{"missing.asc"} << Screen::Virtual
@@ -158,6 +185,45 @@ void TestVoranview::refusalsAreOneSentence()
              qPrintable(outcome.errors));
     QCOMPARE(outcome.output, QString());
     QVERIFY(QDir(m_folder.path()).isEmpty());
+}
+
+void TestVoranview::everyKindMakesAPicture_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<double>("coloured"); // part of the picture that is not grey, the legend included
+    QTest::newRow("lines of spectra") << QStringList{examples + "gasoline_nir.csv"} << 0.08;
+    QTest::newRow("sheets of spectra")
+        << QStringList{examples + "gasoline_nir.csv", "--style", "filled", "--look", "dark"} << 0.12;
+    QTest::newRow("mesh") << QStringList{examples + "bunny.off"} << 0.15;
+    QTest::newRow("formula") << QStringList{"--function", "x*y", "--range", "-1:1,0:pi", "--mesh", "40x30"}
+                             << 0.12;
+}
+
+void TestVoranview::everyKindMakesAPicture()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(double, coloured);
+    const QString path = m_folder.filePath("kind.png");
+    const Outcome outcome = runViewer(arguments + QStringList{"--png", path, "--size", "500x400"});
+    QVERIFY2(outcome.status == 0, qPrintable(outcome.errors));
+    const QImage image(path);
+    QCOMPARE(image.size(), QSize(500, 400));
+    const double part =
+        pixels(image, [](const QColor& colour) { return colour.saturation() > 80 && colour.value() > 60; }) /
+        (500.0 * 400.0);
+    QVERIFY2(part > coloured, qPrintable(QString::number(part)));
+    QVERIFY(QFile::remove(path));
+}
+
+void TestVoranview::notesGoToTheErrors()
+{
+    const QString path = m_folder.filePath("notes.png");
+    const Outcome outcome = runViewer({"--function", "sqrt(x)", "--png", path});
+    QCOMPARE(outcome.status, 0);
+    QVERIFY2(outcome.errors.startsWith("voranview: The formula has no height at") &&
+                 outcome.errors.count('\n') == 1,
+             qPrintable(outcome.errors));
+    QVERIFY(QFile::remove(path));
 }
 
 void TestVoranview::pictureHasTheSizeAndTheRelief_data()

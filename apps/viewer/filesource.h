@@ -1,0 +1,6 @@
+#pragma once
+
+#include "plotsource.h"
+
+/// The source that reads a file, by its kind. The band, from 1, is for grids.
+std::unique_ptr<PlotSource> sourceOfFile(const QString& path, int band = 1);

@@ -1,0 +1,32 @@
+#include "formulasource.h"
+
+#include "formula.h"
+#include "griddescription.h"
+#include "viewerplot.h"
+
+namespace {
+
+constexpr double formulaRelief = 0.4;
+
+} // namespace
+
+FormulaSource::FormulaSource(const QString& formula, const FormulaArea& area) : m_area(area)
+{
+    setName(formula.simplified());
+}
+
+std::unique_ptr<PlotView> FormulaSource::read()
+{
+    Formula formula(name());
+    Grid grid;
+    if (!formula.read(grid, m_area))
+        return fail(formula.error());
+    grid.name.clear();
+    auto plot = std::make_unique<ViewerPlot>();
+    plot->setRelief(formulaRelief);
+    if (!plot->load(grid))
+        return failToDraw();
+    setDescription(describeGrid(grid));
+    setNotes(formula.notes());
+    return plot;
+}

@@ -1,0 +1,123 @@
+#include "plothost.h"
+
+#include "plotpage.h"
+#include "plots/baseplot.h"
+#include "view/plotstatusbar.h"
+
+#include <QLabel>
+#include <QMainWindow>
+#include <QMenu>
+#include <QToolBar>
+
+namespace {
+
+constexpr QSize barIcons(22, 22);
+
+QIcon icon(const char* name)
+{
+    return QIcon(QStringLiteral(":/plot/images/%1.svg").arg(QLatin1String(name)));
+}
+
+} // namespace
+
+PlotHost::PlotHost(QMainWindow& window, PlotPage& page, QMenu& plotMenu, QMenu& viewMenu, QAction* viewEnd)
+    : QObject(&window), m_window(window), m_page(page), m_viewMenu(viewMenu), m_plotMenu(plotMenu, page, this)
+{
+    placeStatusBar();
+    placeToolBars();
+    fillViewMenu(viewEnd);
+}
+
+PlotHost::~PlotHost()
+{
+    for (QToolBar* bar : qAsConst(m_bars)) {
+        m_window.removeToolBar(bar);
+        // Back to the plot.
+        bar->setParent(nullptr);
+    }
+    for (QAction* action : qAsConst(m_viewActions))
+        m_viewMenu.removeAction(action);
+    qDeleteAll(m_submenus);
+    m_window.setStatusBar(nullptr);
+}
+
+void PlotHost::placeStatusBar()
+{
+    auto* bar = new Zel3D::PlotStatusBar(&m_page.plot(), &m_window);
+    auto* description = new QLabel(m_page.source().description());
+    description->setObjectName("description");
+    description->setToolTip(description->text());
+    // As long as it is, the text must not keep the window wide.
+    description->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    bar->addWidget(description, 1);
+    m_window.setStatusBar(bar);
+    sayPicked(*bar);
+}
+
+void PlotHost::sayPicked(Zel3D::PlotStatusBar& bar)
+{
+    // After the bar's own words, which these take the place of.
+    connect(&m_page.plot(), &Zel3D::BasePlot::selectedObject, &bar,
+            [this, &bar](const Zel3D::SelectedObjectsInfo& info) {
+                const QString text = info.valid ? m_page.source().describe(info) : QString();
+                if (!text.isEmpty())
+                    bar.showMessage(text);
+            });
+}
+
+void PlotHost::placeToolBars()
+{
+    for (Zel3D::PlotToolBarType type :
+         {Zel3D::PlotStyleToolBar, Zel3D::ViewsToolBar, Zel3D::GridStyleToolBar})
+        m_bars.append(m_page.plot().getToolBar(type));
+    if (!m_plotMenu.simulationActions().isEmpty()) {
+        m_simulationBar = std::make_unique<QToolBar>(tr("Simulation"));
+        m_simulationBar->setObjectName("simulationToolBar");
+        m_simulationBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+        m_simulationBar->addActions(m_plotMenu.simulationActions());
+        m_bars.append(m_simulationBar.get());
+    }
+    for (QToolBar* bar : qAsConst(m_bars)) {
+        bar->setIconSize(barIcons);
+        m_window.addToolBar(bar);
+        bar->setVisible(true);
+    }
+}
+
+QMenu* PlotHost::addSubmenu(const QString& text, QAction* end)
+{
+    auto* menu = new QMenu(text, &m_viewMenu);
+    m_viewMenu.insertMenu(end, menu);
+    m_submenus.append(menu);
+    return menu;
+}
+
+void PlotHost::fillViewMenu(QAction* end)
+{
+    auto* reset = new QAction(icon("resetview"), tr("&Reset view"), this);
+    reset->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_R));
+    reset->setStatusTip(tr("Rotation, shift and zoom of the start"));
+    connect(reset, &QAction::triggered, &m_page, [this] {
+        m_page.view().resetView();
+        m_page.plot().update();
+    });
+    const auto separator = [this] {
+        auto* line = new QAction(this);
+        line->setSeparator(true);
+        return line;
+    };
+    m_viewActions = {reset, separator()};
+    int number = 1;
+    const QList<QAction*> views = m_page.plot().getToolBar(Zel3D::ViewsToolBar)->actions();
+    for (QAction* action : views) {
+        action->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+%1").arg(number++)));
+        m_viewActions.append(action);
+    }
+    m_viewActions.append(separator());
+    m_viewMenu.insertActions(end, m_viewActions);
+    addSubmenu(tr("&Grid planes"), end)
+        ->addActions(m_page.plot().getToolBar(Zel3D::GridStyleToolBar)->actions());
+    QMenu* bars = addSubmenu(tr("Tool &bars"), end);
+    for (QToolBar* bar : qAsConst(m_bars))
+        bars->addAction(bar->toggleViewAction());
+}

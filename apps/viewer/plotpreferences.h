@@ -1,0 +1,33 @@
+#pragma once
+
+#include "plots/look.h"
+#include "plotstyles.h"
+
+#include <QMap>
+
+#include <optional>
+
+class PlotView;
+
+/// What a person chose for one plot and finds again in the next: styles, look, light, picking and projection.
+/// Comes back with the program, but for the projection.
+class PlotPreferences
+{
+public:
+    /// As stored.
+    static PlotPreferences stored();
+    void store() const;
+
+    void takeFrom(PlotView& view);
+    void applyTo(PlotView& view) const;
+
+    void setLook(const Zel3D::Look& look) { m_look = look; }
+    void setStyle(PlotKind kind, int style) { m_styles[kind] = style; }
+
+private:
+    QMap<PlotKind, int> m_styles;
+    Zel3D::Look m_look = Zel3D::Look::light();
+    bool m_picking = true;
+    bool m_lighting = true;
+    bool m_perspective = false;
+};

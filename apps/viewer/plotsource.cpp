@@ -1,0 +1,30 @@
+#include "plotsource.h"
+
+#include "plots/baseplot.h"
+
+#include <QCoreApplication>
+
+std::unique_ptr<PlotView> PlotSource::open()
+{
+    m_error.clear();
+    std::unique_ptr<PlotView> view = read();
+    if (view)
+        view->plot().slotSetTitle(m_name);
+    return view;
+}
+
+QString PlotSource::describe(const Zel3D::SelectedObjectsInfo& /*place*/) const
+{
+    return QString();
+}
+
+std::unique_ptr<PlotView> PlotSource::fail(const QString& sentence)
+{
+    m_error = sentence;
+    return nullptr;
+}
+
+std::unique_ptr<PlotView> PlotSource::failToDraw()
+{
+    return fail(QCoreApplication::translate("PlotSource", "\"%1\" cannot be drawn.").arg(m_name));
+}

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "plotview.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+
+class WaterSimulation;
+
+/// Where the contents of a plot come from: a file, a formula, a surface that is computed.
+class PlotSource
+{
+public:
+    PlotSource() = default;
+    virtual ~PlotSource() = default;
+    PlotSource(const PlotSource&) = delete;
+    PlotSource& operator=(const PlotSource&) = delete;
+
+    /// Reads what is to be shown into a new plot, which must not outlive the source. Null when that fails:
+    /// error() says why.
+    std::unique_ptr<PlotView> open();
+    /// The file, for a source that is one.
+    virtual QString filePath() const { return QString(); }
+    /// What is said of a picked place, or empty to say its coordinates.
+    virtual QString describe(const Zel3D::SelectedObjectsInfo& place) const;
+    /// What moves the plot, where something does; null before open().
+    virtual WaterSimulation* simulation() { return nullptr; }
+
+    /// A short name for titles.
+    const QString& name() const { return m_name; }
+    /// What was read, in numbers.
+    const QString& description() const { return m_description; }
+    /// Sentences on what was changed or left out while reading.
+    const QStringList& notes() const { return m_notes; }
+    /// One sentence; empty after a success.
+    const QString& error() const { return m_error; }
+
+protected:
+    /// Does the work of open().
+    virtual std::unique_ptr<PlotView> read() = 0;
+    void setName(const QString& name) { m_name = name; }
+    void setDescription(const QString& text) { m_description = text; }
+    void setNotes(const QStringList& sentences) { m_notes = sentences; }
+    /// Keeps the sentence and returns null, as read() does.
+    std::unique_ptr<PlotView> fail(const QString& sentence);
+    /// The sentence for what the plot refused.
+    std::unique_ptr<PlotView> failToDraw();
+
+private:
+    QString m_name;
+    QString m_description;
+    QStringList m_notes;
+    QString m_error;
+};

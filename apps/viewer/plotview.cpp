@@ -1,0 +1,85 @@
+#include "plotview.h"
+
+#include "plots/baseplot.h"
+#include "plots/baseplotsettings.h"
+#include "plots/viewfit.h"
+#include "scene/coordinatesystem.h"
+
+#include <algorithm>
+
+namespace {
+
+// Of the window's width or height at the start; the rest is for the numbers on the axes and the legend.
+constexpr double startPart = 0.68;
+
+// In radii of the view: to the left, where no legend stands.
+constexpr double startShift = -0.06;
+
+// Smoothed edges cost four times the memory; beyond this many pixels they are not seen.
+constexpr qint64 mostSmoothedPixels = 32 * 1000 * 1000;
+
+} // namespace
+
+int PlotView::plotStyle()
+{
+    return plot().getSettings().getStyle();
+}
+
+void PlotView::setLook(const Zel3D::Look& look)
+{
+    m_look = look;
+    Zel3D::Look own = look;
+    if (!m_gradientName.isEmpty()) {
+        own.gradientName = m_gradientName;
+        own.gradient = m_gradient;
+    }
+    own.applyTo(plot());
+}
+
+void PlotView::setDataGradient(const QString& name, const QLinearGradient& gradient)
+{
+    m_gradientName = name;
+    m_gradient = gradient;
+    plot().setGradient(name, gradient);
+}
+
+void PlotView::nameAxes(const std::array<QString, 3>& names)
+{
+    const std::array<Zel3D::AxisType, 4> parallels[] = {
+        {Zel3D::XFrontBottom, Zel3D::XFrontTop, Zel3D::XBackTop, Zel3D::XBackBottom},
+        {Zel3D::YLeftBottom, Zel3D::YLeftTop, Zel3D::YRightTop, Zel3D::YRightBottom},
+        {Zel3D::ZBackLeft, Zel3D::ZFrontLeft, Zel3D::ZBackRight, Zel3D::ZFrontRight}};
+    for (std::size_t direction = 0; direction < names.size(); ++direction) {
+        for (Zel3D::AxisType edge : parallels[direction])
+            plot().getCoordinateSystem().getAxis(edge).getLabel().getSettings().setText(names[direction]);
+    }
+}
+
+void PlotView::resetView()
+{
+    plot().setRotation(m_rotation);
+    plot().setShift({0.0, 0.0, 0.0});
+    plot().setViewportShift({startShift, 0.0});
+    fit();
+}
+
+void PlotView::fit()
+{
+    Zel3D::BasePlot& shown = plot();
+    const double aspect = double(std::max(shown.width(), 1)) / std::max(shown.height(), 1);
+    shown.setZoom(
+        Zel3D::ViewFit::zoom(shown.getHull(), shown.getScale(), shown.getRotation(), aspect, startPart));
+    m_fittedZoom = shown.getZoom();
+}
+
+void PlotView::refit()
+{
+    if (plot().getZoom() == m_fittedZoom)
+        fit();
+}
+
+int PlotView::pictureSamples(const QSize& pixels, const QGLFormat& format)
+{
+    const bool smoothed = qint64(pixels.width()) * pixels.height() <= mostSmoothedPixels;
+    return smoothed ? std::max(0, format.samples()) : 0;
+}

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "core/types.h"
+#include "plotkind.h"
+#include "plots/look.h"
+
+#include <QGLFormat>
+#include <QImage>
+#include <QSize>
+
+#include <array>
+
+namespace Zel3D {
+class BasePlot;
+}
+
+/// What the viewer adds to a plot of the library, of whatever kind: a start view that fills the window until
+/// the person zooms, the colours of the data under every look, and pictures.
+class PlotView
+{
+public:
+    PlotView() = default;
+    virtual ~PlotView() = default;
+    PlotView(const PlotView&) = delete;
+    PlotView& operator=(const PlotView&) = delete;
+
+    virtual PlotKind kind() const = 0;
+    virtual Zel3D::BasePlot& plot() = 0;
+    /// The plot at this size in device pixels, which has the widget's proportions, whatever the screen shows
+    /// of it; a null image when the driver has no room for it. Needs no window, makes its own context
+    /// current.
+    virtual QImage picture(const QSize& pixels) = 0;
+
+    int plotStyle();
+    /// Dresses the plot; data with colours of their own keep them.
+    void setLook(const Zel3D::Look& look);
+    const Zel3D::Look& look() const { return m_look; }
+    /// The colours of the data, whatever the look.
+    void setDataGradient(const QString& name, const QLinearGradient& gradient);
+    /// The rotation in degrees from which the plot is shown at the start.
+    void setStartRotation(const Zel3D::ValueXYZ<double>& degrees) { m_rotation = degrees; }
+    /// Puts rotation, shift and zoom back to the start view, without repainting.
+    void resetView();
+    /// The names on every edge of x, y and z.
+    void nameAxes(const std::array<QString, 3>& names);
+
+protected:
+    /// Fills the window again, unless the person has zoomed.
+    void refit();
+    /// Smoothed edges as in the widget's format, where the driver has memory for them.
+    static int pictureSamples(const QSize& pixels, const QGLFormat& format);
+
+private:
+    void fit();
+
+    Zel3D::Look m_look;
+    QString m_gradientName;
+    QLinearGradient m_gradient;
+    Zel3D::ValueXYZ<double> m_rotation;
+    double m_fittedZoom = 0.0;
+};

@@ -1,0 +1,27 @@
+#include "toroidsource.h"
+
+#include "core/toroid.h"
+#include "viewerplot.h"
+
+namespace {
+
+constexpr unsigned int around = 121;
+constexpr unsigned int across = 61;
+
+} // namespace
+
+ToroidSource::ToroidSource()
+{
+    setName(tr("Toroid"));
+}
+
+std::unique_ptr<PlotView> ToroidSource::read()
+{
+    Zel3D::Toroid toroid;
+    toroid.setMesh(around, across);
+    auto plot = std::make_unique<ViewerPlot>();
+    if (!plot->load(toroid))
+        return failToDraw();
+    setDescription(tr("%1 x %2 nodes").arg(around).arg(across));
+    return plot;
+}
