@@ -211,6 +211,13 @@ void CoordinateSystem::setScale(BaseAxisType base, ScaleType type)
         axes[int(axis)].setScale(type);
 }
 
+void CoordinateSystem::setAxisNames(const QString& x, const QString& y, const QString& z)
+{
+    const QString* const names[] = {&x, &y, &z};
+    for (int i = 0; i < axisCount; ++i)
+        axes[i].getLabel().getSettings().setText(*names[baseAxisType(AxisType(i))]);
+}
+
 void CoordinateSystem::setMajorLineWidth(double width)
 {
     if (std::isnan(width))

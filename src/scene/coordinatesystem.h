@@ -91,6 +91,8 @@ public:
     void setMajorInterval(BaseAxisType base, int n);
     void setMinorInterval(BaseAxisType base, int n);
     void setScale(BaseAxisType base, ScaleType type);
+    /// The titles of the axes, on all four edges of each direction.
+    void setAxisNames(const QString& x, const QString& y, const QString& z);
     /// Sets the width of the major grid lines, but not below the minor one's, and that of all major ticks.
     /// Not a number is ignored.
     void setMajorLineWidth(double width);

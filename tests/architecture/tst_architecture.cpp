@@ -51,6 +51,7 @@ class TestArchitecture : public QObject
 private slots:
     void sources_data();
     void sources();
+    void examplesStayShort();
 };
 
 void TestArchitecture::sources_data()
@@ -83,6 +84,18 @@ void TestArchitecture::sources()
                  qPrintable(path + " includes " + included));
         if (folder == "scene" && match.captured(1) == "view")
             QVERIFY2(sceneSees.contains(included), qPrintable(path + " includes " + included));
+    }
+}
+
+void TestArchitecture::examplesStayShort()
+{
+    const QDir examples(VORAN_SOURCE_DIR "/examples");
+    const QStringList files = examples.entryList({"*.cpp"}, QDir::Files);
+    QVERIFY(files.contains("surface.cpp"));
+    for (const QString& file : files) {
+        // What they share is not there to be read.
+        if (file != "example.cpp")
+            QVERIFY2(contents(examples.filePath(file)).count('\n') < 80, qPrintable(file));
     }
 }
 

@@ -1,6 +1,7 @@
 #include "harness/harness.h"
 #include "plotfixture.h"
 #include "plots/look.h"
+#include "plots/spectrum.h"
 #include "scene/coordinatesystem.h"
 #include "scene/title.h"
 #include "view/light.h"
@@ -11,11 +12,13 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <memory>
 
 using namespace Zel3D;
 using namespace fixture;
 
-using Setup = std::function<bool(Plot&)>;
+/// A plot that is ready to be shown; null when it could not be made.
+using Setup = std::function<std::unique_ptr<BasePlot>()>;
 Q_DECLARE_METATYPE(Setup)
 
 namespace {
@@ -51,19 +54,13 @@ double hill(int column, int row)
 }
 
 /// A look in a font that the machines of the tests have, in sizes for a small picture.
-void dress(Plot& plot, Look look)
+void dress(BasePlot& plot, Look look)
 {
     look.titleFont = QFont("DejaVu Sans", 10, QFont::Bold);
     look.nameFont = QFont("DejaVu Sans", 8);
     look.numberFont = QFont("DejaVu Sans", 7);
     look.applyTo(plot);
-    const char* const names[] = {"East", "North", "Height"};
-    for (int i = 0; i < 12; ++i)
-        plot.getCoordinateSystem()
-            .getAxis(AxisType(i))
-            .getLabel()
-            .getSettings()
-            .setText(names[baseAxisType(AxisType(i))]);
+    plot.getCoordinateSystem().setAxisNames("East", "North", "Height");
     plot.getLights().first()->setPhi(135.0);
     plot.getLights().first()->setTheta(60.0);
     plot.getLights().first()->setOn(true);
@@ -103,6 +100,71 @@ bool printLogarithmic(Plot& plot)
         .into(plot);
 }
 
+/// A surface plot after one of the functions above.
+Setup surface(bool (*prepare)(Plot&))
+{
+    return [prepare]() -> std::unique_ptr<BasePlot> {
+        auto plot = std::make_unique<Plot>();
+        if (!prepare(*plot))
+            return nullptr;
+        return plot;
+    };
+}
+
+QString exampleFile(const char* name)
+{
+    return QString("%1/examples/data/%2").arg(VORAN_SOURCE_DIR, name);
+}
+
+bool rabbit(Plot& plot)
+{
+    QFile file(exampleFile("bunny.off"));
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    QTextStream text(&file);
+    QString word;
+    int counts[3] = {};
+    text >> word >> counts[0] >> counts[1] >> counts[2];
+    QVector<QVector3D> vertices(counts[0]);
+    for (QVector3D& vertex : vertices) {
+        float p[3] = {};
+        text >> p[0] >> p[1] >> p[2];
+        vertex = QVector3D(p[0], -p[2], p[1]);
+    }
+    QVector<QVector<unsigned int>> triangles(counts[1], QVector<unsigned int>(3));
+    for (QVector<unsigned int>& triangle : triangles)
+        text >> counts[2] >> triangle[0] >> triangle[1] >> triangle[2];
+    dress(plot, Look::light());
+    plot.setBoxScaling(EqualUnits);
+    plot.setPlotStyle(4);
+    const bool loaded = plot.loadFromData(vertices, triangles, 1.0, 1.0);
+    plot.fitView();
+    return loaded;
+}
+
+std::unique_ptr<BasePlot> gasoline()
+{
+    QFile file(exampleFile("gasoline_nir.csv"));
+    if (!file.open(QIODevice::ReadOnly))
+        return nullptr;
+    const QList<QByteArray> wavelengths = file.readLine().split(',');
+    SpectrumData::Map spectra;
+    while (!file.atEnd()) {
+        const QList<QByteArray> values = file.readLine().split(',');
+        for (int i = 1; i < values.size(); ++i)
+            spectra[values[0].toDouble()][wavelengths[i].toDouble()] = values[i].toDouble();
+    }
+    auto plot = std::make_unique<Spectrum>("plot", organization, application);
+    dress(*plot, Look::light());
+    plot->setLighting(false);
+    plot->setPlotStyle(3);
+    plot->setFixedHull({{900.0F, 0.0F, -0.2F}, {1700.0F, 60.0F, 1.4F}});
+    if (!plot->loadFromData(spectra, YAxis))
+        return nullptr;
+    plot->fitView();
+    return plot;
+}
+
 } // namespace
 
 class TestPictures : public QObject
@@ -117,19 +179,21 @@ private slots:
 void TestPictures::wholePicture_data()
 {
     QTest::addColumn<Setup>("setup");
-    QTest::newRow("light") << Setup(lightSurface);
-    QTest::newRow("dark") << Setup(darkMesh);
-    QTest::newRow("print") << Setup(printLogarithmic);
+    QTest::newRow("light") << surface(lightSurface);
+    QTest::newRow("dark") << surface(darkMesh);
+    QTest::newRow("print") << surface(printLogarithmic);
+    QTest::newRow("rabbit") << surface(rabbit);
+    QTest::newRow("gasoline") << Setup(gasoline);
 }
 
 void TestPictures::wholePicture()
 {
     QFETCH(Setup, setup);
     const QString name = QString("%1.png").arg(QTest::currentDataTag());
-    Plot plot;
-    QVERIFY(setup(plot));
-    QVERIFY(harness::show(plot, 320, 240));
-    const QImage seen = harness::grab(plot).convertToFormat(QImage::Format_RGB32);
+    const std::unique_ptr<BasePlot> plot = setup();
+    QVERIFY(plot);
+    QVERIFY(harness::show(*plot, 320, 240));
+    const QImage seen = harness::grab(*plot).convertToFormat(QImage::Format_RGB32);
     const QDir folder(QCoreApplication::applicationDirPath() + "/pictures-seen");
     QVERIFY(QDir().mkpath(folder.path()) && seen.save(folder.filePath(name)));
     const QImage expected(QString("%1/tests/plots/pictures/%2").arg(VORAN_SOURCE_DIR, name));

@@ -76,6 +76,8 @@ private slots:
     void lineWidthIsNotClamped();
     void numbersStandAtTheirValues_data();
     void numbersStandAtTheirValues();
+    void roundingErrorsReadAsZero_data();
+    void roundingErrorsReadAsZero();
     void equalLimitsKeepTheOldTicsUndrawn();
     void unusableLimits_data();
     void unusableLimits();
@@ -213,6 +215,36 @@ void TestAxis::numbersStandAtTheirValues()
         }
     }
     QVERIFY(checked > 1000);
+}
+
+void TestAxis::roundingErrorsReadAsZero_data()
+{
+    QTest::addColumn<double>("minimum");
+    QTest::addColumn<double>("maximum");
+    QTest::addColumn<bool>("logarithmic");
+    QTest::addColumn<QStringList>("texts");
+    const QStringList around = {"-0.2", "0", "0.2", "0.4"};
+    QTest::newRow("single precision") << double(-0.2F) << double(0.4F) << false << around;
+    QTest::newRow("double precision") << -0.2 << 0.4 << false << around;
+    QTest::newRow("small values") << 0.0 << 3e-9 << false << QStringList{"0", "1e-09", "2e-09", "3e-09"};
+    QTest::newRow("small powers") << -9.0 << -6.0 << true << QStringList{"1e-09", "1e-08", "1e-07", "1e-06"};
+    QTest::newRow("the power zero") << -1.0 << 2.0 << true << QStringList{"0.1", "1", "10", "100"};
+}
+
+void TestAxis::roundingErrorsReadAsZero()
+{
+    QFETCH(double, minimum);
+    QFETCH(double, maximum);
+    QFETCH(bool, logarithmic);
+    QFETCH(QStringList, texts);
+    Axis axis;
+    prepare(axis);
+    axis.setAutomaticTicFormat(true);
+    axis.setScale(logarithmic ? Logarithmic : Linear);
+    axis.setMajorInterval(3);
+    axis.setLimits(minimum, maximum);
+    axis.recalculateTics();
+    QVERIFY(sameNumbers(axis, texts));
 }
 
 void TestAxis::equalLimitsKeepTheOldTicsUndrawn()

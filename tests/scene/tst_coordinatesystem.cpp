@@ -103,6 +103,7 @@ private slots:
     void limitsIncreaseAndNumbersAreTrue();
     void childrenAreTheVisibleAxes();
     void operationsReachTheAxesOfTheirDirection();
+    void namesStandOnAllEdgesOfTheirDirection();
     void gridLines_data();
     void gridLines();
     void gridLinesFollowTheirSettings();
@@ -225,6 +226,16 @@ void TestCoordinateSystem::operationsReachTheAxesOfTheirDirection()
         QCOMPARE(settings.getMajor().getInterval(), directions.at(i) + 2);
         QCOMPARE(settings.getMinor().getInterval(), (QVector<int>{1, 7, 9}).at(directions.at(i)));
     }
+}
+
+void TestCoordinateSystem::namesStandOnAllEdgesOfTheirDirection()
+{
+    CoordinateSystem box(QVector3D(0, 0, 0), QVector3D(1, 1, 1));
+    box.setAxisNames("East", "North", "Height");
+    const QString names[] = {"East", "North", "Height"};
+    for (int i = 0; i < 12; ++i)
+        QCOMPARE(box.getAxis(AxisType(i)).getLabel().getSettings().getText(),
+                 names[baseAxisType(AxisType(i))]);
 }
 
 void TestCoordinateSystem::gridLines_data()
