@@ -1,8 +1,10 @@
 #include "core/griddata.h"
 
+#include "core/dataorigin.h"
 #include "core/gridnormals.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <limits>
 #include <utility>
@@ -167,6 +169,36 @@ int GridData::convertToExponents(const std::array<bool, 3>& directions)
         stepY = double(high.y() - low.y()) / (rows() - 1);
     calcNormals();
     return lost;
+}
+
+std::array<double, 3> GridData::moveOrigin(const std::array<bool, 3>& directions)
+{
+    double* const end = block.get() + 3 * std::size_t(columns()) * rows();
+    std::array<double, 3> low{HUGE_VAL, HUGE_VAL, HUGE_VAL};
+    std::array<double, 3> high{-HUGE_VAL, -HUGE_VAL, -HUGE_VAL};
+    for (const double* value = block.get(); value != end; value += 3) {
+        if (!(std::isfinite(value[0]) && std::isfinite(value[1]) && std::isfinite(value[2])))
+            continue;
+        for (std::size_t k = 0; k < 3; ++k) {
+            low[k] = std::min(low[k], value[k]);
+            high[k] = std::max(high[k], value[k]);
+        }
+    }
+    std::array<double, 3> origin{};
+    for (std::size_t k = 0; k < 3; ++k)
+        origin[k] = directions[k] ? dataOrigin(low[k], high[k]) : 0.0;
+    if (origin == std::array<double, 3>{})
+        return origin;
+    for (double* value = block.get(); value != end; value += 3) {
+        for (std::size_t k = 0; k < 3; ++k)
+            value[k] -= origin[k];
+    }
+    for (std::size_t k = 0; k < 3; ++k) {
+        minimum[int(k)] = toFloat(low[k] - origin[k]);
+        maximum[int(k)] = toFloat(high[k] - origin[k]);
+    }
+    calcNormals();
+    return origin;
 }
 
 void GridData::clear()

@@ -98,6 +98,10 @@ public:
     /// at or below zero becomes missing. Returns how many nodes became missing.
     int convertToExponents(const std::array<bool, 3>& directions);
 
+    /// Subtracts from the drawn coordinates of the marked directions what dataOrigin() says for them and
+    /// brings box and normals up to date; select() still reports what was given. Returns what was subtracted.
+    std::array<double, 3> moveOrigin(const std::array<bool, 3>& directions);
+
     /// Whether the node is a hole.
     bool isMissing(unsigned int column, unsigned int row) const
     {

@@ -76,6 +76,11 @@ public:
     bool isAutomaticEdges() const { return automaticEdges; }
     bool isAutomaticFaces() const { return automaticFaces; }
     bool isPickHighlight() const;
+    bool isDataCentred() const { return dataCentred; }
+    /// What was subtracted from the data in the plot before they were drawn; see setDataCentred(). The hull,
+    /// the range of the colours and the places of markers count from it; axes, legend and picks state the
+    /// caller's values.
+    const ValueXYZ<double>& getDataOrigin() const;
     bool isLogarithmicData(BaseAxisType axis) const { return logarithmicData[std::size_t(axis)]; }
     /// What stands around the data, owned by the plot. Changes show at the next paint; the intervals and
     /// scales of the axes are changed through the plot.
@@ -154,6 +159,12 @@ public:
     /// logarithmic. Values at or below zero are then missing. Holds from the next load on. No signal of its
     /// own.
     bool setLogarithmicData(BaseAxisType axis, bool on);
+    /// On: where a direction's values lie so far from zero that single precision, in which the scene is
+    /// drawn, would show steps, such as time stamps, their middle is subtracted while data are loaded.
+    /// Heights of spectra stay, which stand on zero, and so do points and cells, which are given in single
+    /// precision, and logarithmic directions. Off by default; holds from the next load on. No signal of its
+    /// own.
+    bool setDataCentred(bool on);
     /// @}
 
     /// A start view: from the front left and above, with the box of the data filling \a part of the window's
@@ -351,6 +362,8 @@ protected:
     const std::array<bool, 3>& getLoadedLogarithmic() const { return loadedLogarithmic; }
     /// Gives the directions whose kind of values changed since the last load their scale.
     void applyLogarithmicData();
+    /// What the container that is being loaded subtracted.
+    void setDataOrigin(const ValueXYZ<double>& origin);
     /// Says once that so many values at or below zero have no exponent.
     void warnOfLostValues(int count);
     /// Frees the list of the data and additions; the context is made current.
@@ -400,6 +413,7 @@ private:
     std::unique_ptr<EdgeChoice> edges; ///< of the last frame, while they are chosen automatically
     bool automaticEdges = true;
     bool automaticFaces = false;
+    bool dataCentred = false;
     std::array<bool, 3> logarithmicData{};
     std::array<bool, 3> loadedLogarithmic{}; ///< as the data in the plot were loaded
     std::unique_ptr<BasePlotSettings> settings;

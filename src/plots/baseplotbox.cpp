@@ -1,6 +1,7 @@
 // The box of a plot: the hull of the data, the scene's corners, scaling and the division of the axes.
 
 #include "core/data.h"
+#include "core/tofloat.h"
 #include "plots/autoscaling.h"
 #include "plots/baseplot.h"
 #include "plots/baseplotsettings.h"
@@ -26,14 +27,30 @@ Parallelepiped BasePlot::dataBox() const
 {
     const bool usable = fixedHull.minimum != fixedHull.maximum && !isOrigin(fixedHull.minimum) &&
                         !isOrigin(fixedHull.maximum);
-    if (usable)
-        return fixedHull;
+    if (usable) {
+        const ValueXYZ<double>& o = getDataOrigin();
+        const auto moved = [&o](const QVector3D& p) {
+            return QVector3D(toFloat(double(p.x()) - o.x), toFloat(double(p.y()) - o.y),
+                             toFloat(double(p.z()) - o.z));
+        };
+        return {moved(fixedHull.minimum), moved(fixedHull.maximum)};
+    }
     Parallelepiped box{data->getMinimum(), data->getMaximum()};
     for (int i = 0; i < 3; ++i) {
         if (!std::isfinite(box.minimum[i]) || !std::isfinite(box.maximum[i]))
             box.minimum[i] = box.maximum[i] = 0.0F;
     }
     return box;
+}
+
+const ValueXYZ<double>& BasePlot::getDataOrigin() const
+{
+    return coordinateSystem->getOrigin();
+}
+
+void BasePlot::setDataOrigin(const ValueXYZ<double>& origin)
+{
+    coordinateSystem->setOrigin(origin);
 }
 
 bool BasePlot::setHull(const Parallelepiped& box)
@@ -57,7 +74,7 @@ void BasePlot::setFixedHull(const Parallelepiped& box)
 void BasePlot::updateLegend()
 {
     const Pair<double> range = getLegendRange();
-    legend->setLimits(range.first, range.second);
+    legend->setLimits(range.first + getDataOrigin().z, range.second + getDataOrigin().z);
 }
 
 void BasePlot::createCoordinateSystem(const QVector3D& firstCorner, const QVector3D& secondCorner)
@@ -79,7 +96,7 @@ Pair<double> BasePlot::getLegendRange() const
 {
     if (isZero(gradientRange.first, gradientRange.second))
         return {double(hull.minimum.z()), double(hull.maximum.z())};
-    return gradientRange;
+    return {gradientRange.first - getDataOrigin().z, gradientRange.second - getDataOrigin().z};
 }
 
 void BasePlot::fitView(double part)

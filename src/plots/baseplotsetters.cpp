@@ -222,6 +222,14 @@ bool BasePlot::setLogarithmicData(BaseAxisType axis, bool on)
     return true;
 }
 
+bool BasePlot::setDataCentred(bool on)
+{
+    if (dataCentred == on)
+        return false;
+    dataCentred = on;
+    return true;
+}
+
 void BasePlot::applyLogarithmicData()
 {
     for (BaseAxisType axis : {XAxis, YAxis, ZAxis}) {

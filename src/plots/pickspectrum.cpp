@@ -7,8 +7,9 @@
 
 namespace Zel3D {
 
-PickSpectrum::PickSpectrum(std::vector<ValueXYZ<double>> drawnPoints, const std::array<bool, 3>& logarithmic)
-    : points(std::move(drawnPoints)), exponents(logarithmic)
+PickSpectrum::PickSpectrum(std::vector<ValueXYZ<double>> drawnPoints, const std::array<bool, 3>& logarithmic,
+                           const ValueXYZ<double>& drawnOrigin)
+    : points(std::move(drawnPoints)), exponents(logarithmic), origin(drawnOrigin)
 {
     orderPoints();
 }
@@ -25,7 +26,7 @@ SelectedObjectsInfo PickSpectrum::info(int index) const
     const auto plain = [this](double value, std::size_t k) {
         return exponents[k] ? std::pow(10.0, value) : value;
     };
-    return {plain(p.x, 0), plain(p.y, 1), plain(p.z, 2), true};
+    return {origin.x + plain(p.x, 0), origin.y + plain(p.y, 1), origin.z + plain(p.z, 2), true};
 }
 
 } // namespace Zel3D

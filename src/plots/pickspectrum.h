@@ -10,8 +10,10 @@ namespace Zel3D {
 class PickSpectrum : public PickCloud
 {
 public:
-    /// The points as drawn; \a logarithmic directions (x, y, z) are drawn as decimal exponents.
-    PickSpectrum(std::vector<ValueXYZ<double>> drawnPoints, const std::array<bool, 3>& logarithmic);
+    /// The points as drawn, counted from \a origin; \a logarithmic directions (x, y, z) are drawn as decimal
+    /// exponents.
+    PickSpectrum(std::vector<ValueXYZ<double>> drawnPoints, const std::array<bool, 3>& logarithmic,
+                 const ValueXYZ<double>& origin);
 
     int size() const override { return int(points.size()); }
     QVector3D position(int index) const override;
@@ -20,6 +22,7 @@ public:
 private:
     std::vector<ValueXYZ<double>> points;
     std::array<bool, 3> exponents;
+    ValueXYZ<double> origin;
 };
 
 } // namespace Zel3D

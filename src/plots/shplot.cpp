@@ -57,6 +57,7 @@ bool SHPlot::load(Container* container, const QString& fault, const Fill& fill)
     givenVertices.clear();
     setData(container);
     applyLogarithmicData();
+    setDataOrigin({0.0, 0.0, 0.0});
     bool filled = true;
     try {
         fill();
@@ -77,6 +78,16 @@ void SHPlot::convertGrid()
     const std::array<bool, 3>& directions = getLogarithmicData();
     if (directions[0] || directions[1] || directions[2])
         warnOfLostValues(gridData->convertToExponents(directions));
+}
+
+void SHPlot::centreGrid()
+{
+    if (!isDataCentred())
+        return;
+    const std::array<bool, 3>& directions = getLogarithmicData();
+    const std::array<double, 3> origin =
+        gridData->moveOrigin({!directions[0], !directions[1], !directions[2]});
+    setDataOrigin({origin[0], origin[1], origin[2]});
 }
 
 QVector<QVector3D> SHPlot::toExponents(const QVector<QVector3D>& vertices)
@@ -107,6 +118,7 @@ bool SHPlot::loadFromData(double** z, unsigned int columns, unsigned int rows, d
     return load(gridData.get(), DataCheck::heights(z, columns, rows, xMin, xMax, yMin, yMax), [&] {
         gridData->setData(z, columns, rows, xMin, xMax, yMin, yMax);
         convertGrid();
+        centreGrid();
     });
 }
 

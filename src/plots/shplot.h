@@ -92,6 +92,7 @@ private:
     bool load(Container* container, const QString& fault, const Fill& fill);
     /// Turn the plain values of logarithmic directions into exponents.
     void convertGrid();
+    void centreGrid();
     QVector<QVector3D> toExponents(const QVector<QVector3D>& vertices);
     /// The node step of the surface; a stored resolution below 1 counts as 1.
     int nodeStep() const;

@@ -2,8 +2,11 @@
 
 #include "plots/spectrum.h"
 
+#include "core/dataorigin.h"
 #include "plots/datacheck.h"
 
+#include <algorithm>
+#include <cmath>
 #include <limits>
 #include <new>
 
@@ -65,17 +68,48 @@ SpectrumData::Map Spectrum::toExponents(const SpectrumData::Map& spectra, BaseAx
     return converted;
 }
 
+ValueXYZ<double> Spectrum::moveOrigin(SpectrumData::Map& spectra, BaseAxisType axis) const
+{
+    const std::array<bool, 3>& directions = getLogarithmicData();
+    const BaseAxisType along = axis == XAxis ? YAxis : XAxis;
+    double low = std::numeric_limits<double>::infinity();
+    double high = -low;
+    for (const auto& [position, values] : spectra) {
+        if (!values.empty()) {
+            low = std::min(low, values.begin()->first);
+            high = std::max(high, values.rbegin()->first);
+        }
+    }
+    const double inner = directions[std::size_t(along)] ? 0.0 : dataOrigin(low, high);
+    const double outer = directions[std::size_t(axis)] || spectra.empty()
+                             ? 0.0
+                             : dataOrigin(spectra.begin()->first, spectra.rbegin()->first);
+    if (inner != 0.0 || outer != 0.0) {
+        SpectrumData::Map moved;
+        for (const auto& [position, values] : spectra) {
+            Values& kept = moved[position - outer];
+            for (const auto& [key, value] : values)
+                kept.emplace_hint(kept.end(), key - inner, value);
+        }
+        spectra = std::move(moved);
+    }
+    return axis == XAxis ? ValueXYZ<double>{outer, inner, 0.0} : ValueXYZ<double>{inner, outer, 0.0};
+}
+
 bool Spectrum::loadFromData(const std::map<double, std::map<double, double>>& spectra, BaseAxisType axis)
 {
     if (!spectrumData)
         return false;
     QString fault = DataCheck::spectra(spectra, axis);
     SpectrumData::Map loaded;
+    ValueXYZ<double> origin{0.0, 0.0, 0.0};
     int lost = 0;
     // Copied before anything is cleared: memory may run out, and the map may be the plot's own.
     if (fault.isEmpty()) {
         try {
             loaded = toExponents(spectra, axis, lost);
+            if (isDataCentred())
+                origin = moveOrigin(loaded, axis);
         } catch (const std::bad_alloc&) {
             fault = QStringLiteral("memory ran out");
         }
@@ -89,6 +123,7 @@ bool Spectrum::loadFromData(const std::map<double, std::map<double, double>>& sp
     spectrumData->clear();
     setData(spectrumData.get());
     applyLogarithmicData();
+    setDataOrigin(origin);
     spectrumData->setAxis(axis);
     spectrumData->setData(std::move(loaded));
     warnOfLostValues(lost);

@@ -87,6 +87,8 @@ private:
     using Values = std::map<double, double>;
 
     SpectrumData::Map toExponents(const SpectrumData::Map& spectra, BaseAxisType axis, int& lost) const;
+    /// Moves the positions where that keeps their detail; see setDataCentred(). Returns what was subtracted.
+    ValueXYZ<double> moveOrigin(SpectrumData::Map& spectra, BaseAxisType axis) const;
     /// The step of the markers; below 1 there are none.
     int markerStep() const;
     /// The step of curves and sheets; a stored resolution below 1 counts as 1.

@@ -26,7 +26,7 @@ std::unique_ptr<PickPoints> Spectrum::createPickPoints() const
                 points.push_back({point->first, outer, point->second});
         }
     }
-    return std::make_unique<PickSpectrum>(std::move(points), getLoadedLogarithmic());
+    return std::make_unique<PickSpectrum>(std::move(points), getLoadedLogarithmic(), getDataOrigin());
 }
 
 int Spectrum::countPickPoints() const

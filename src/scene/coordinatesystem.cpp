@@ -138,19 +138,36 @@ void CoordinateSystem::init(QVector3D first, QVector3D second)
     for (int i = 0; i < axisCount; ++i) {
         Axis& axis = axes[i];
         const AxisType type = AxisType(i);
-        const int along = int(baseAxisType(type));
         const BoxEdge edge = boxEdge(type, first, second);
         axis.getArrow().setParameters(size, 4.0 * size);
         axis.setPosition(edge.start, edge.end);
-        axis.setLimits(double(std::min(first[along], second[along])),
-                       double(std::max(first[along], second[along])));
-        // The limits always increase; where the edge runs downwards the lower one stands at its end.
-        axis.setReversed(second[along] < first[along]);
         axis.setTicsOrientation(edge.ticDirection);
     }
+    updateLimits();
     updateTicsLength();
     for (AxisType type : highlightOrder)
         axes[int(type)].setHighlightBox({first, second}, type);
+}
+
+void CoordinateSystem::updateLimits()
+{
+    const double origins[] = {origin.x, origin.y, origin.z};
+    for (int i = 0; i < axisCount; ++i) {
+        const int along = int(baseAxisType(AxisType(i)));
+        const auto first = double(firstCorner[along]);
+        const auto second = double(secondCorner[along]);
+        axes[i].setLimits(origins[along] + std::min(first, second), origins[along] + std::max(first, second));
+        // The limits always increase; where the edge runs downwards the lower one stands at its end.
+        axes[i].setReversed(second < first);
+    }
+}
+
+void CoordinateSystem::setOrigin(const ValueXYZ<double>& values)
+{
+    if (origin.x == values.x && origin.y == values.y && origin.z == values.z)
+        return;
+    origin = values;
+    updateLimits();
 }
 
 void CoordinateSystem::setPosition(QVector3D first, QVector3D second)

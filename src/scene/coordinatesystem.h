@@ -74,6 +74,10 @@ public:
     /// Places all axes on the edges of the box of two corners, which may come in any order: the numbers stand
     /// at their values and the ticks point out of the box in any case.
     void init(QVector3D first, QVector3D second);
+    /// What was subtracted from the values before they became the places of the scene: the axes state the
+    /// sum. (0, 0, 0) at first.
+    void setOrigin(const ValueXYZ<double>& values);
+    const ValueXYZ<double>& getOrigin() const { return origin; }
     /// Stores the two corners only.
     void setPosition(QVector3D first, QVector3D second);
     const QVector3D& getFirst() const { return firstCorner; }
@@ -126,12 +130,14 @@ public:
 private:
     void arrange();
     void updateTicsLength();
+    void updateLimits();
     template <class PairRoutine>
     void drawGridLines(double width, int style, PairRoutine drawPair);
 
     QVector<Axis> axes;
     QVector3D firstCorner;
     QVector3D secondCorner;
+    ValueXYZ<double> origin{0.0, 0.0, 0.0};
     CoordinateSystemSettings settings;
     bool highlight = false;
     int drawnFaces = -1;
