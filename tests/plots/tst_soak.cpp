@@ -169,6 +169,10 @@ private slots:
 
 int main(int argc, char* argv[])
 {
+    // A long run is no hang.
+    const int seconds = qEnvironmentVariableIntValue("VORAN_SOAK_SECONDS");
+    if (seconds > 100)
+        qputenv("QTEST_FUNCTION_TIMEOUT", QByteArray::number(3000 * seconds));
     return harness::run<TestSoak>(argc, argv);
 }
 
