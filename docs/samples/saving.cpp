@@ -3,8 +3,6 @@
 #include "plots/baseplot.h"
 #include "plots/look.h"
 
-#include <QSettings>
-
 namespace samples {
 
 void keep(Zel3D::BasePlot& plot)
@@ -17,8 +15,8 @@ void keep(Zel3D::BasePlot& plot)
 void bringBack(Zel3D::BasePlot& plot)
 {
     //! [loading]
-    plot.slotLoadSettings();            // for example after the window was made
-    Zel3D::Look::light().applyTo(plot); // what the axes look like
+    Zel3D::Look::light().applyTo(plot); // what people have not changed
+    plot.slotLoadSettings();
     plot.update();
     //! [loading]
 }

@@ -385,10 +385,14 @@ void TestManual::windowSamples()
     QCOMPARE(plot->getToolBar(ViewsToolBar)->parentWidget(), &window);
     QVERIFY(detail->isVisible());
     plot->setRotation({1.0, 2.0, 3.0});
+    plot->setBackgroundColor(Qt::red);
     samples::keep(*plot);
     plot->setRotation({0.0, 0.0, 0.0});
+    plot->setBackgroundColor(Qt::white);
     samples::bringBack(*plot);
     QCOMPARE(plot->getRotation().z, 3.0);
+    QCOMPARE(plot->getBackgroundColor(), QColor(Qt::red));
+    QVERIFY(plot->getCoordinateSystem().getAxis(XFrontBottom).getSettings().getLine().isVisible());
     samples::closeOnPick(*detail);
     emit detail->selectedObject({1.0, 2.0, 3.0, true});
     QVERIFY(detail);
