@@ -149,8 +149,8 @@ public:
     /// Sends the direction of the cone.
     void setLightDirection(const QVector3D& direction);
 
-    /// Reads "%0/type", "%0/on", "%0/spot/..." with %0 = group/light<number>. Reaches OpenGL with the next
-    /// init(), setter or apply().
+    /// Reads "%0/type", "%0/on", "%0/spot/..." with %0 = group/lightN, N the light's number. Reaches OpenGL
+    /// with the next init(), setter or apply().
     virtual void loadSettings(const QString& organization, const QString& application, const QString& group);
     virtual void saveSettings(const QString& organization, const QString& application, const QString& group);
     /// Remembers the material, so that the marker's emission does not leak into the scene.
