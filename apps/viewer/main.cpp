@@ -2,6 +2,7 @@
 #include "display.h"
 #include "gridfile.h"
 #include "picturefile.h"
+#include "templateoption.h"
 #include "viewerplot.h"
 #include "viewerwindow.h"
 
@@ -42,6 +43,9 @@ int takePicture(const CommandLine& wanted)
         plot.setLook(*wanted.look());
     if (!plot.load(grid, QFileInfo(wanted.file()).fileName()))
         return refuse(CommandLine::tr("\"%1\" cannot be drawn.").arg(wanted.file()));
+    QString error;
+    if (!wanted.templateFile().isEmpty() && !TemplateOption::apply(plot, wanted.templateFile(), error))
+        return refuse(error);
     const QImage picture = plot.picture(size);
     if (picture.isNull())
         return refuse(CommandLine::tr("A picture of %1 x %2 pixels cannot be drawn here.")
@@ -60,6 +64,9 @@ int showWindow(const CommandLine& wanted)
         window.plot().setPlotStyle(*wanted.style());
     QString error;
     if (!wanted.file().isEmpty() && !window.open(wanted.file(), wanted.band(), error))
+        return refuse(error);
+    if (!wanted.templateFile().isEmpty() &&
+        !TemplateOption::apply(window.plot(), wanted.templateFile(), error))
         return refuse(error);
     window.show();
     if (wanted.size())

@@ -3,7 +3,9 @@
 #include "gridfile.h"
 #include "picturefile.h"
 #include "plotstyles.h"
+#include "settings/templateactions.h"
 #include "view/plotstatusbar.h"
+#include "viewerbindings.h"
 #include "viewerplot.h"
 
 #include <QActionGroup>
@@ -136,6 +138,7 @@ void ViewerWindow::createViewMenu()
     QMenu* planes = menu->addMenu(tr("&Grid planes"));
     planes->addActions(m_plot->getToolBar(Zel3D::GridStyleToolBar)->actions());
     menu->addSeparator();
+    menu->addAction((new ViewerBindings(this, m_plot))->action());
     QMenu* bars = menu->addMenu(tr("Tool &bars"));
     for (QToolBar* bar : findChildren<QToolBar*>())
         bars->addAction(bar->toggleViewAction());
@@ -213,6 +216,7 @@ void ViewerWindow::createPlotMenu()
         [this](Zel3D::ProjectionType type) { m_perspectiveAction->setChecked(type == Zel3D::Perspective); });
     addScalingActions(*menu->addMenu(tr("&Scaling")));
     addLookActions(*menu->addMenu(tr("Loo&k")));
+    menu->addMenu((new Zel3D::TemplateActions(m_plot, this))->makeMenu(menu));
 }
 
 void ViewerWindow::addScalingActions(QMenu& menu)

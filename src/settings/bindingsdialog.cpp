@@ -11,6 +11,8 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace Zel3D {
 
 namespace {
@@ -106,7 +108,11 @@ QSize BindingsDialog::sizeHint() const
     const int line = fontMetrics().height();
     const int columns =
         table->columnWidth(BindingsModel::ActionColumn) + table->columnWidth(BindingsModel::GestureColumn);
-    const int sentence = fontMetrics().horizontalAdvance(QString(usualLines, 'n'));
+    // Room for the longest sentence with its sign.
+    int sentence = 0;
+    for (const PlotBindings::Action& action : PlotBindings::actions())
+        sentence = std::max(sentence, fontMetrics().horizontalAdvance(PlotBindings::sameGesture(action)));
+    sentence += 6 * line;
     return QDialog::sizeHint().expandedTo({columns + sentence, line * usualLines});
 }
 

@@ -203,12 +203,17 @@ int PlotBindings::partner(int action) const
     return -1;
 }
 
+QString PlotBindings::sameGesture(const Action& other)
+{
+    return Words::tr("The same gesture does \"%1\".").arg(other.label);
+}
+
 QString PlotBindings::clash(int action) const
 {
     const Gesture& own = gestures.at(action);
     const int other = partner(action);
     if (other >= 0)
-        return Words::tr("The same gesture does \"%1\".").arg(actions().at(other).label);
+        return sameGesture(actions().at(other));
     if (own.kind == Gesture::Drag && (own.buttons & Qt::RightButton))
         return Words::tr("The right button opens the menu.");
     return own.kind == Gesture::Key ? switchedBy(own.key) : QString();

@@ -49,6 +49,8 @@ public:
     /// Why the gesture of an action cannot be used, as a sentence; empty when it can.
     QString clash(int action) const;
     bool hasClash() const;
+    /// The sentence of a gesture that does this, too.
+    static QString sameGesture(const Action& other);
 
     /// Under the keys "bindings/" and an action's id; what is standard is left out.
     void save(QSettings& store) const;

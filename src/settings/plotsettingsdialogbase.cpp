@@ -175,7 +175,7 @@ QWidget* PlotSettingsDialogBase::makeButtons()
     menu->addAction(tr("This page"), this, &PlotSettingsDialogBase::restorePageDefaults);
     menu->addAction(tr("All pages"), this, &PlotSettingsDialogBase::restoreAllDefaults);
     restoreButton->setMenu(menu);
-    QPushButton* templates = buttons->addButton(tr("Template"), QDialogButtonBox::ActionRole);
+    QPushButton* templates = buttons->addButton(tr("Template"), QDialogButtonBox::ResetRole);
     templates->setMenu((new TemplateActions(getPlot(), this, &binder.getUndoStack()))->makeMenu(templates));
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

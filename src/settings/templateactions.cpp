@@ -132,6 +132,7 @@ bool TemplateActions::applyFrom(const QString& path)
         QString text = shown.text();
         if (report.skipped.size() > mostShown)
             text += '\n' + tr("%1 more in the details.").arg(report.skipped.size() - mostShown);
+        text.replace('\n', QStringLiteral("\n\u2022 "));
         tell(tr("Apply template"), text, report.skipped.size() > mostShown ? report.text() : QString());
     }
     return true;
