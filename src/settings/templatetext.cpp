@@ -29,22 +29,25 @@ constexpr double largestFont = 1000.0;
 /// What the values 0, 1, 2 and so on of a choice are called in a file.
 struct Names
 {
-    const char* ids; ///< a pattern
+    QRegularExpression ids;
     QStringList names;
 };
 
 const QVector<Names>& knownNames()
 {
+    const auto ids = [](const char* pattern) {
+        return QRegularExpression(QRegularExpression::anchoredPattern(pattern));
+    };
     static const QVector<Names> all{
-        {"common/projection", {"orthogonal", "perspective"}},
-        {"common/boxScaling", {"cube", "equal units", "off"}},
-        {"common/shading", {"flat", "smooth"}},
-        {"common/contour", {"none", "top", "bottom"}},
-        {"legend/position", {"top", "bottom", "left", "right"}},
-        {"lighting/light\\d+/type", {"directional", "dotted", "spot"}},
-        {".*/tics/style", {"out", "both"}},
-        {".*/arrow/size", {"small", "normal", "large"}},
-        {"grid/(major|minor)Style", {"solid", "dashes", "dots", "dash and dot", "dash and two dots"}},
+        {ids("common/projection"), {"orthogonal", "perspective"}},
+        {ids("common/boxScaling"), {"cube", "equal units", "off"}},
+        {ids("common/shading"), {"flat", "smooth"}},
+        {ids("common/contour"), {"none", "top", "bottom"}},
+        {ids("legend/position"), {"top", "bottom", "left", "right"}},
+        {ids("lighting/light\\d+/type"), {"directional", "dotted", "spot"}},
+        {ids(".*/tics/style"), {"out", "both"}},
+        {ids(".*/arrow/size"), {"small", "normal", "large"}},
+        {ids("grid/(major|minor)Style"), {"solid", "dashes", "dots", "dash and dot", "dash and two dots"}},
     };
     return all;
 }
@@ -63,7 +66,7 @@ QStringList namesOf(const BasePlot& plot, const QString& id)
     if (id == QLatin1String("style/style"))
         return styleNames(plot);
     for (const Names& known : knownNames()) {
-        if (QRegularExpression(QRegularExpression::anchoredPattern(known.ids)).match(id).hasMatch())
+        if (known.ids.match(id).hasMatch())
             return known.names;
     }
     return {};

@@ -121,6 +121,7 @@ private slots:
     void failedSavingKeepsTheOldFile();
     void surfaceToSpectrum();
     void viewOnDemand();
+    void settingsThatLimitEachOther();
     void gradientsOfThePlotStay();
     void oneStepInTheDialog();
     void cancelTakesATemplateBack();
@@ -385,6 +386,21 @@ void TestPlotTemplate::viewOnDemand()
     // A scale that automatic scaling made from the data is not kept.
     source->setBoxScaling(Zel3D::CubeScaling);
     QVERIFY(!PlotTemplate::of(*source, PlotTemplate::View).getEntries().contains("common/scaleX"));
+}
+
+void TestPlotTemplate::settingsThatLimitEachOther()
+{
+    // Minor lines are never wider than major ones: the major ones can shrink only after the minor ones.
+    const auto source = makePlot("surface");
+    const auto target = makePlot("surface");
+    source->getCoordinateSystem().setMinorLineWidth(0.5);
+    source->getCoordinateSystem().setMajorLineWidth(1.0);
+    target->getCoordinateSystem().setMajorLineWidth(5.0);
+    target->getCoordinateSystem().setMinorLineWidth(3.0);
+    const PlotTemplate look = PlotTemplate::of(*source);
+    QVERIFY(look.applyTo(*target).skipped.isEmpty());
+    QCOMPARE(target->getCoordinateSystem().getSettings().getMajorLineWidth(), 1.0);
+    QCOMPARE(target->getCoordinateSystem().getSettings().getMinorLineWidth(), 0.5);
 }
 
 void TestPlotTemplate::gradientsOfThePlotStay()
