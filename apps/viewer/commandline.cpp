@@ -52,6 +52,7 @@ CommandLine::CommandLine()
                   PlotStyles::names(PlotKind::Spectra).join(", ")),
          "NAME"},
         {"look", tr("Dress the plot in this look: %1.").arg(lookNames().join(", ")), "NAME"},
+        {"template", tr("Give the plot the appearance that this file holds."), "FILE"},
         {"size", tr("Size of the plot in pixels, each side %1 to %2.").arg(smallestSide).arg(largestSide),
          "WxH"},
         {"png", tr("Write the plot to this picture and leave."), "PICTURE"},
@@ -92,6 +93,9 @@ CommandLine::Outcome CommandLine::take()
         return refuse(tr("Only one file can be shown; %1 are named.").arg(files.size()));
     m_file = files.value(0);
     m_picture = m_parser.value("png");
+    m_template = m_parser.value("template");
+    if (m_parser.isSet("template") && m_template.isEmpty())
+        return refuse(tr("The option --template names no file."));
     const struct
     {
         const char* option;

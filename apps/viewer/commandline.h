@@ -43,6 +43,8 @@ public:
     std::optional<int> style() const { return m_style; }
     /// The look, when one was asked for.
     const std::optional<Zel3D::Look>& look() const { return m_look; }
+    /// The template to apply, or empty.
+    const QString& templateFile() const { return m_template; }
     /// The size of the plot in pixels, when one was asked for.
     std::optional<QSize> size() const { return m_size; }
     /// The picture to write, or empty to open a window.
@@ -66,6 +68,7 @@ private:
     QString m_formula;
     FormulaArea m_area;
     QString m_picture;
+    QString m_template;
     std::optional<int> m_style;
     std::optional<Zel3D::Look> m_look;
     std::optional<QSize> m_size;

@@ -5,6 +5,7 @@
 #include "picturefile.h"
 #include "plotpage.h"
 #include "plots/baseplot.h"
+#include "templateoption.h"
 #include "viewerwindow.h"
 
 #include <QApplication>
@@ -56,6 +57,10 @@ int takePicture(const CommandLine& wanted)
     if (wanted.look())
         view->setLook(*wanted.look());
     view->resetView();
+    QString error;
+    if (!wanted.templateFile().isEmpty() &&
+        !TemplateOption::apply(view->plot(), wanted.templateFile(), error))
+        return refuse(error);
     const QImage picture = view->picture(size);
     if (picture.isNull())
         return refuse(CommandLine::tr("A picture of %1 x %2 pixels cannot be drawn here.")
@@ -78,6 +83,9 @@ int showWindow(const CommandLine& wanted)
             return refuse(error);
         tellNotes(window.page()->source());
     }
+    if (!wanted.templateFile().isEmpty() && window.page() &&
+        !TemplateOption::apply(window.page()->plot(), wanted.templateFile(), error))
+        return refuse(error);
     window.show();
     if (wanted.size())
         window.fitPlot(*wanted.size());

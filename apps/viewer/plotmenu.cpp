@@ -4,14 +4,21 @@
 #include "plots/baseplot.h"
 #include "plots/styleaction.h"
 #include "plotstyles.h"
+#include "settings/templateactions.h"
 #include "watersimulation.h"
 
 #include <QActionGroup>
 #include <QApplication>
+#include <QMainWindow>
 #include <QMenu>
+#include <QStatusBar>
 #include <QStyle>
 
 using Zel3D::BasePlot;
+
+namespace {
+constexpr int messageTime = 5000; // ms
+}
 
 PlotMenu::PlotMenu(QMenu& menu, PlotPage& page, QObject* parent) : QObject(parent), m_menu(menu), m_page(page)
 {
@@ -26,6 +33,7 @@ PlotMenu::PlotMenu(QMenu& menu, PlotPage& page, QObject* parent) : QObject(paren
     addPerspective();
     addScaling(*addSubmenu(tr("&Scaling")));
     addLooks(*addSubmenu(tr("Loo&k")));
+    addTemplates();
     if (page.source().simulation() != nullptr)
         addSimulation();
 }
@@ -140,6 +148,18 @@ void PlotMenu::addLooks(QMenu& menu)
             m_page.plot().update();
         });
     }
+}
+
+void PlotMenu::addTemplates()
+{
+    auto* templates = new Zel3D::TemplateActions(&m_page.plot(), &m_page);
+    QMenu* menu = templates->makeMenu(&m_menu);
+    m_menu.addMenu(menu);
+    m_submenus.append(menu);
+    connect(templates, &Zel3D::TemplateActions::done, this, [this](const QString& sentence) {
+        if (auto* window = qobject_cast<QMainWindow*>(m_page.window()))
+            window->statusBar()->showMessage(sentence, messageTime);
+    });
 }
 
 void PlotMenu::addSimulation()

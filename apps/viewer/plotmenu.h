@@ -30,6 +30,7 @@ private:
     void addPerspective();
     void addScaling(QMenu& menu);
     void addLooks(QMenu& menu);
+    void addTemplates();
     void addSimulation();
 
     QMenu& m_menu;

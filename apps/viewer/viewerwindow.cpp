@@ -11,6 +11,7 @@
 #include "recentmenu.h"
 #include "startpage.h"
 #include "toroidsource.h"
+#include "viewerbindings.h"
 #include "watersource.h"
 
 #include <QApplication>
@@ -56,7 +57,10 @@ public:
 
 } // namespace
 
-ViewerWindow::ViewerWindow() : m_preferences(PlotPreferences::stored()), m_stack(new QStackedWidget)
+ViewerWindow::ViewerWindow()
+    : m_preferences(PlotPreferences::stored()),
+      m_bindings(new ViewerBindings(this)),
+      m_stack(new QStackedWidget)
 {
     setCentralWidget(m_stack);
     setWindowIcon(icon("voranview"));
@@ -156,6 +160,8 @@ void ViewerWindow::createViewMenu()
     m_fullScreenAction->setShortcut(QKeySequence(Qt::Key_F11));
     m_fullScreenAction->setIcon(icon("fullscreen"));
     connect(m_fullScreenAction, &QAction::triggered, this, &ViewerWindow::showFullScreen);
+    m_viewMenu->addSeparator();
+    m_viewMenu->addAction(m_bindings->action());
 }
 
 void ViewerWindow::showFullScreen(bool on)
@@ -183,6 +189,7 @@ void ViewerWindow::placePage(std::unique_ptr<PlotPage> page)
     removePage();
     m_page = std::move(page);
     m_preferences.applyTo(m_page->view());
+    m_bindings->attach(&m_page->plot());
     m_stack->addWidget(m_page.get());
     m_host = std::make_unique<PlotHost>(*this, *m_page, *m_plotMenu, *m_viewMenu, m_statusAction);
     restoreState(m_barState);

@@ -12,6 +12,7 @@ class PlotSource;
 class QStackedWidget;
 class RecentMenu;
 class StartPage;
+class ViewerBindings;
 
 /// The viewer's window: a start page or one plot, opened from the menu or by dropping a file, with its tool
 /// bars and status bar and the menus that change it. The window comes back as it was left.
@@ -61,6 +62,7 @@ private:
     void savePicture();
 
     PlotPreferences m_preferences;
+    ViewerBindings* m_bindings;
     QStackedWidget* m_stack;
     StartPage* m_startPage = nullptr;
     std::unique_ptr<PlotPage> m_page;

@@ -118,10 +118,14 @@ void FieldBinder::keep()
 {
     for (Entry& entry : entries)
         entry.kept = entry.field.read();
+    undoStack.setClean();
 }
 
 void FieldBinder::restore()
 {
+    // A step may have changed more than the fields.
+    if (plot && undoStack.cleanIndex() >= 0)
+        undoStack.setIndex(undoStack.cleanIndex());
     for (int pass = 0; pass < restorePasses && isModified(); ++pass) {
         for (const QString& id : qAsConst(ids)) {
             const QVariant kept = entries.constFind(id)->kept;

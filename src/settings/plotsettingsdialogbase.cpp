@@ -3,6 +3,7 @@
 #include "plots/baseplot.h"
 #include "settings/abstractsettingspage.h"
 #include "settings/fieldeditor.h"
+#include "settings/templateactions.h"
 #include "settings/untouchedplot.h"
 #include "settings/valueeditor.h"
 
@@ -174,6 +175,8 @@ QWidget* PlotSettingsDialogBase::makeButtons()
     menu->addAction(tr("This page"), this, &PlotSettingsDialogBase::restorePageDefaults);
     menu->addAction(tr("All pages"), this, &PlotSettingsDialogBase::restoreAllDefaults);
     restoreButton->setMenu(menu);
+    QPushButton* templates = buttons->addButton(tr("Template"), QDialogButtonBox::ResetRole);
+    templates->setMenu((new TemplateActions(getPlot(), this, &binder.getUndoStack()))->makeMenu(templates));
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(applyButton, &QPushButton::clicked, this, &PlotSettingsDialogBase::apply);

@@ -12,7 +12,7 @@ namespace {
 QVector<Field> styleFields(BasePlot& plot)
 {
     QVector<Field::Offer> offers;
-    for (const StyleAction* action : plot.findChildren<StyleAction*>())
+    for (const StyleAction* action : plot.getStyleActions())
         offers.append({action->text().remove('&'), action->getStyle()});
     QVector<Field> fields;
     if (!offers.isEmpty()) {
