@@ -4,6 +4,8 @@
 
 #include "plots/datacheck.h"
 
+#include <QCoreApplication>
+
 #include <limits>
 #include <new>
 
@@ -27,6 +29,11 @@ Spectrum::Spectrum(const QString& name, const QString& organizationName, const Q
     Spectrum::createPlotStyleActions();
     createPlotStyleToolBar();
     createContextMenu();
+}
+
+Spectrum::Spectrum(QWidget* parent)
+    : Spectrum(QString(), QCoreApplication::organizationName(), QCoreApplication::applicationName(), parent)
+{
 }
 
 Spectrum::~Spectrum() = default;
