@@ -1,7 +1,5 @@
 #pragma once
 
-#include "core/export.h"
-
 #include <QVector>
 
 namespace Zel3D {
@@ -9,6 +7,6 @@ namespace Zel3D {
 /// The number of significant digits, 2 to 12, with which the 'g' texts of equally spaced ticks state their
 /// values: each text reads back as its value to within a hundredth of the step, and no tick from 0.0001 to
 /// 99999 needs an exponent.
-VORANPLOT_EXPORT int ticPrecision(const QVector<double>& majors);
+int ticPrecision(const QVector<double>& majors);
 
 } // namespace Zel3D

@@ -3,15 +3,20 @@
 #include "core/export.h"
 
 #include <QMetaType>
+#include <QObject>
 #include <QVector3D>
 
 namespace Zel3D {
+
+// Forms name the values of an enumeration that is known here.
+Q_NAMESPACE_EXPORT(VORANPLOT_EXPORT)
 
 /// The camera of the view. The values are persisted and are the order of the settings' combo box.
 enum ProjectionType {
     Orthogonal = 0, ///< parallel rays, shown as "Orthogonal"
     Perspective = 1 ///< rays through one eye point, shown as "Perspective"
 };
+Q_ENUM_NS(ProjectionType)
 
 /// The scale of an axis. The values are persisted and are the order of the settings' combo box.
 enum ScaleType {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "core/export.h"
 #include "core/types.h"
 
 namespace Zel3D {
@@ -10,11 +9,11 @@ namespace AutoScaling {
 
 /// The scale that draws the box as a cube: largest extent / extent for each direction. (1, 1, 1) when an
 /// extent is 0 or not finite.
-VORANPLOT_EXPORT ValueXYZ<double> scaleOf(const Parallelepiped& box);
+ValueXYZ<double> scaleOf(const Parallelepiped& box);
 
 /// The inverse proportions of a scale: largest / |component| for each component that is not zero, else 1. Of
 /// x and y the signed value competes for the largest, of z the absolute one.
-VORANPLOT_EXPORT ValueXYZ<double> inverseOf(const ValueXYZ<double>& scale);
+ValueXYZ<double> inverseOf(const ValueXYZ<double>& scale);
 
 } // namespace AutoScaling
 

@@ -36,11 +36,27 @@ struct EdgeChoice;
 /// and the plot's own settings. The subclass supplies the data and the geometry of each plot style.
 ///
 /// Setters store, emit their signal and do not repaint; what they change in the geometry is rebuilt at the
-/// next paint. The slots repaint, and do nothing before the view is initialised.
+/// next paint. The slots repaint, and do nothing before the view is initialised. The properties are for forms
+/// and repaint, too.
 class VORANPLOT_EXPORT BasePlot : public ZelGLWidget
 {
     Q_OBJECT
+    // Forms apply them in this order: a look comes before what may differ from it, the background included.
+
+    /// The look that was chosen last through this property; choosing one changes the plot as
+    /// Look::applyTo() does, NoLook changes nothing.
+    Q_PROPERTY(StandardLook look READ getStandardLook WRITE writeLook)
+    /// The text of the title.
+    Q_PROPERTY(QString title READ getTitleText WRITE writeTitle)
+    /// The name of the current gradient. A name that the plot does not hold is looked up in
+    /// gradientPresets(); an unknown one changes nothing and is warned about.
+    Q_PROPERTY(QString gradient READ getGradientName WRITE writeGradient)
+    Q_PROPERTY(QColor backgroundColor READ getBackgroundColor WRITE writeBackgroundColor)
 public:
+    /// The looks of the library by name.
+    enum StandardLook { NoLook, LightLook, DarkLook, PrintLook };
+    Q_ENUM(StandardLook)
+
     class MeshSettings;
     class NormalsSettings;
     class GradientsSettings;
@@ -348,6 +364,9 @@ protected:
     void selectProjections(const Addition& marker);
     /// For checks: a pick sends what is far from the cursor, too, and must find the same.
     void setPickEverything(bool on);
+    /// For the property of the subclass.
+    int getPlotStyle() const;
+    void writePlotStyle(int style);
     /// Forgets what can be picked; for when the data go.
     void clearPickPoints();
     /// Not owned; null for none.
@@ -374,6 +393,14 @@ protected:
     void markAllChanged() { dataDirty = normalsDirty = selectionDirty = true; }
 
 private:
+    StandardLook getStandardLook() const { return standardLook; }
+    QString getTitleText() const;
+    QString getGradientName() const;
+    void writeLook(StandardLook look);
+    void writeTitle(const QString& text);
+    void writeGradient(const QString& name);
+    void writeBackgroundColor(const QColor& color);
+
     void createActions();
     void repaintLegend();
     void rebuildWhatChanged();
@@ -407,6 +434,7 @@ private:
     ValueXYZ<double> automaticScale;
     bool autoScaling = false;
     BoxScaling boxScaling = ManualScaling;
+    StandardLook standardLook = NoLook;
     std::unique_ptr<CoordinateSystem> coordinateSystem;
     std::unique_ptr<Title> title;
     std::unique_ptr<Legend> legend;

@@ -7,6 +7,8 @@
 #include "plots/datacheck.h"
 #include "settings/plotsettingsdialog.h"
 
+#include <QCoreApplication>
+
 #include <cmath>
 #include <limits>
 #include <new>
@@ -34,6 +36,11 @@ SHPlot::SHPlot(const QString& name, const QString& organizationName, const QStri
     SHPlot::createPlotStyleActions();
     createPlotStyleToolBar();
     createContextMenu();
+}
+
+SHPlot::SHPlot(QWidget* parent)
+    : SHPlot(QString(), QCoreApplication::organizationName(), QCoreApplication::applicationName(), parent)
+{
 }
 
 SHPlot::~SHPlot() = default;

@@ -24,7 +24,14 @@ class GridData;
 class VORANPLOT_EXPORT SHPlot : public BasePlot
 {
     Q_OBJECT
+    Q_PROPERTY(Style plotStyle READ getStyle WRITE writeStyle)
 public:
+    /// What plotStyle shows of the data.
+    enum Style { NoPlot, Points, Wireframe, HiddenLine, Filled, FilledMesh, Histogram };
+    Q_ENUM(Style)
+
+    /// For forms: takes the names of the application for its settings; the object name may follow.
+    explicit SHPlot(QWidget* parent = nullptr);
     SHPlot(const QString& name, const QString& organization, const QString& application,
            QWidget* parent = nullptr, const QGLWidget* shareWidget = nullptr, Qt::WindowFlags flags = {});
     ~SHPlot() override;
@@ -88,6 +95,9 @@ protected:
     void setCellColorFromVertex(int vertex, bool keep);
 
 private:
+    Style getStyle() const { return static_cast<Style>(getPlotStyle()); }
+    void writeStyle(Style style) { writePlotStyle(style); }
+
     template <class Container, class Fill>
     bool load(Container* container, const QString& fault, const Fill& fill);
     /// Turn the plain values of logarithmic directions into exponents.

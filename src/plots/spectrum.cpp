@@ -5,6 +5,8 @@
 #include "core/dataorigin.h"
 #include "plots/datacheck.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -30,6 +32,11 @@ Spectrum::Spectrum(const QString& name, const QString& organizationName, const Q
     Spectrum::createPlotStyleActions();
     createPlotStyleToolBar();
     createContextMenu();
+}
+
+Spectrum::Spectrum(QWidget* parent)
+    : Spectrum(QString(), QCoreApplication::organizationName(), QCoreApplication::applicationName(), parent)
+{
 }
 
 Spectrum::~Spectrum() = default;

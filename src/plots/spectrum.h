@@ -26,7 +26,14 @@ namespace Zel3D {
 class VORANPLOT_EXPORT Spectrum : public BasePlot
 {
     Q_OBJECT
+    Q_PROPERTY(Style plotStyle READ getStyle WRITE writeStyle)
 public:
+    /// What plotStyle shows of the data.
+    enum Style { NoPlot, Points, Lines, Filled, FilledFrame };
+    Q_ENUM(Style)
+
+    /// For forms: takes the names of the application for its settings; the object name may follow.
+    explicit Spectrum(QWidget* parent = nullptr);
     /// In which order the spectra are drawn, by their position.
     enum SpectrumOrder { Ascending = 0, Descending = 1 };
     using Entry = SpectrumData::Map::const_iterator;
@@ -84,6 +91,9 @@ protected:
     void drawPolygon(const QList<QVector3D>& points);
 
 private:
+    Style getStyle() const { return static_cast<Style>(getPlotStyle()); }
+    void writeStyle(Style style) { writePlotStyle(style); }
+
     using Values = std::map<double, double>;
 
     SpectrumData::Map toExponents(const SpectrumData::Map& spectra, BaseAxisType axis, int& lost) const;

@@ -16,7 +16,7 @@ struct AxisTic
 };
 
 /// The limits of an axis and the end at which the lower one stands.
-struct VORANPLOT_EXPORT AxisRange
+struct AxisRange
 {
     double minimum = 0.0;
     double maximum = 0.0;
@@ -30,6 +30,6 @@ struct VORANPLOT_EXPORT AxisRange
 
 /// The major ticks of a calculated scale on an axis. Every number that an axis shows and its place come from
 /// here, so that a number stands at the value that it states.
-VORANPLOT_EXPORT QVector<AxisTic> majorTics(const Scale& scale, const AxisRange& range);
+QVector<AxisTic> majorTics(const Scale& scale, const AxisRange& range);
 
 } // namespace Zel3D

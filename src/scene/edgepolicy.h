@@ -16,12 +16,11 @@ struct WindowBox
     bool valid = false; ///< false when a corner lies behind the eye or has no finite place
 };
 
-VORANPLOT_EXPORT WindowBox projectBox(const ViewFrame& frame, const QVector3D& first,
-                                      const QVector3D& second);
+WindowBox projectBox(const ViewFrame& frame, const QVector3D& first, const QVector3D& second);
 
 /// The direction in the window, a unit vector with y upwards, in which numbers stand off an edge: at right
 /// angles to the edge and away from the middle of the box. Downwards where the box gives no direction.
-VORANPLOT_EXPORT QVector2D edgeOutward(const WindowBox& box, AxisType type);
+QVector2D edgeOutward(const WindowBox& box, AxisType type);
 
 /// The edges that show an axis, one for each direction.
 struct EdgeChoice
@@ -42,7 +41,7 @@ struct EdgeChoice
 /// or another one is clearly better, so that nothing flickers at the turning points. Where the view gives no
 /// answer (a corner behind the eye, a box without size) the previous choice stays, or that of a plain
 /// EdgeChoice.
-VORANPLOT_EXPORT EdgeChoice chooseEdges(const ViewFrame& frame, const QVector3D& first,
-                                        const QVector3D& second, const EdgeChoice* previous = nullptr);
+EdgeChoice chooseEdges(const ViewFrame& frame, const QVector3D& first, const QVector3D& second,
+                       const EdgeChoice* previous = nullptr);
 
 } // namespace Zel3D

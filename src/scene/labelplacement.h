@@ -1,6 +1,5 @@
 #pragma once
 
-#include "core/export.h"
 #include "scene/furnituretypes.h"
 #include "scene/viewframe.h"
 
@@ -35,13 +34,12 @@ struct LabelPlacement
 /// Center not at all. An outward direction takes the place of both: the centre of the box moves from the
 /// anchor along the direction until the whole box lies beyond the line through the anchor at right angles to
 /// it, the gap away from that line.
-VORANPLOT_EXPORT QPointF labelOffset(const LabelBox& box);
+QPointF labelOffset(const LabelBox& box);
 
 /// The box about an anchor point of the world, at whole pixels.
-VORANPLOT_EXPORT LabelPlacement placeLabel(const ViewFrame& frame, const QVector3D& anchor,
-                                           const LabelBox& box);
+LabelPlacement placeLabel(const ViewFrame& frame, const QVector3D& anchor, const LabelBox& box);
 
 /// The box about an anchor point of the window, at whole pixels.
-VORANPLOT_EXPORT LabelPlacement placeLabel(const WindowPoint& anchor, const LabelBox& box);
+LabelPlacement placeLabel(const WindowPoint& anchor, const LabelBox& box);
 
 } // namespace Zel3D

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "core/export.h"
-
 #include <QPointF>
 #include <QRectF>
 #include <QVector>
@@ -46,9 +44,9 @@ struct LegendLayout
 /// Lays a legend out: ticks and numbers on one long side of the bar, the pointer on the other, all inside the
 /// window. The bar moves, and then shrinks, until everything has room; in windows too small for that the
 /// numbers go first and then the pointer.
-VORANPLOT_EXPORT LegendLayout layoutLegend(const LegendLayoutInput& input);
+LegendLayout layoutLegend(const LegendLayoutInput& input);
 
 /// The corners of the pointer at a place along the bar, its tip first.
-VORANPLOT_EXPORT std::array<QPointF, 3> legendPointer(const LegendLayout& layout, double t);
+std::array<QPointF, 3> legendPointer(const LegendLayout& layout, double t);
 
 } // namespace Zel3D

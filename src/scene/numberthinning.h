@@ -1,7 +1,5 @@
 #pragma once
 
-#include "core/export.h"
-
 #include <QRectF>
 #include <QVector>
 
@@ -11,6 +9,6 @@ namespace Zel3D {
 /// which neighbours stay the gap apart, its width when side by side and its height when one above the other.
 /// None when only one of several would be left, for a lone number tells no scale. An invalid rectangle stands
 /// for a number that the view does not show.
-VORANPLOT_EXPORT QVector<bool> keptNumbers(const QVector<QRectF>& rectangles, const QSizeF& gap);
+QVector<bool> keptNumbers(const QVector<QRectF>& rectangles, const QSizeF& gap);
 
 } // namespace Zel3D

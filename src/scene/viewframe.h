@@ -1,7 +1,5 @@
 #pragma once
 
-#include "core/export.h"
-
 #include <QVector3D>
 
 #include <array>
@@ -27,9 +25,9 @@ struct WindowPoint
 };
 
 /// Where a point of the world lies in the window. Unlike gluProject it tells points behind the eye.
-VORANPLOT_EXPORT WindowPoint projectToWindow(const ViewFrame& frame, const QVector3D& world);
+WindowPoint projectToWindow(const ViewFrame& frame, const QVector3D& world);
 
 /// The frame of the matrices that are current. Needs a current context.
-VORANPLOT_EXPORT ViewFrame currentViewFrame();
+ViewFrame currentViewFrame();
 
 } // namespace Zel3D

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "core/export.h"
-
 #include <QString>
 #include <QVector>
 
@@ -20,6 +18,6 @@ struct SearchEntry
 /// The indices of the entries that contain every word that was typed, whatever the case: first those with a
 /// label that starts with the first word, then those with all words in path and label, then the others; in
 /// their order otherwise. Nothing typed finds nothing.
-VORANPLOT_EXPORT QVector<int> searchSettings(const QVector<SearchEntry>& entries, const QString& typed);
+QVector<int> searchSettings(const QVector<SearchEntry>& entries, const QString& typed);
 
 } // namespace Zel3D

@@ -41,6 +41,11 @@ PlotStatusBar::PlotStatusBar(BasePlot* plotShown, QWidget* parent)
     connectAll();
 }
 
+BasePlot* PlotStatusBar::getPlot() const
+{
+    return plot;
+}
+
 QLabel* PlotStatusBar::addLabel(const QString& toolTip)
 {
     auto* label = new QLabel(this);

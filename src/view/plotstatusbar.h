@@ -25,7 +25,7 @@ public:
     explicit PlotStatusBar(BasePlot* plot, QWidget* parent = nullptr);
 
     /// Null without one, and when it has been deleted.
-    BasePlot* getPlot() const { return plot; }
+    BasePlot* getPlot() const;
 
 public slots:
     void slotRotationChanged(double x, double y, double z);

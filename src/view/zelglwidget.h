@@ -31,6 +31,10 @@ struct ViewPose;
 class VORANPLOT_EXPORT ZelGLWidget : public QGLWidget
 {
     Q_OBJECT
+    // For forms; unlike the setters, writing a property repaints.
+    Q_PROPERTY(Zel3D::ProjectionType projectionType READ getProjectionType WRITE writeProjectionType NOTIFY
+                   projectionTypeChanged)
+    Q_PROPERTY(double zoom READ getZoom WRITE writeZoom NOTIFY zoomChanged)
 public:
     /// \a name becomes the object name and the prefix of every settings key; \a organization and \a
     /// application name the QSettings store. \a shareWidget, if given, shares its display lists.
@@ -264,6 +268,9 @@ protected:
     int selectionCapacity = 0;
 
 private:
+    void writeProjectionType(Zel3D::ProjectionType type);
+    void writeZoom(double factor);
+
     void autoRotationStep();
     void drawScene();
     void drawInfo();

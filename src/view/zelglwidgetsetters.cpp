@@ -277,4 +277,16 @@ void ZelGLWidget::slotDefault()
     updateGL();
 }
 
+void ZelGLWidget::writeProjectionType(ProjectionType type)
+{
+    if (setProjectionType(type))
+        update();
+}
+
+void ZelGLWidget::writeZoom(double factor)
+{
+    if (setZoom(factor))
+        update();
+}
+
 } // namespace Zel3D
