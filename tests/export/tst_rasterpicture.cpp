@@ -156,15 +156,21 @@ void TestRasterPicture::needsNoWindow()
 void TestRasterPicture::tilesHaveNoSeams_data()
 {
     QTest::addColumn<int>("projection");
-    QTest::newRow("parallel") << int(Orthogonal);
-    QTest::newRow("perspective") << int(Perspective);
+    QTest::addColumn<int>("style");
+    QTest::newRow("parallel") << int(Orthogonal) << 5;
+    QTest::newRow("perspective") << int(Perspective) << 5;
+    // Points whose middle is outside of a tile reach into it.
+    QTest::newRow("points") << int(Orthogonal) << 1;
 }
 
 void TestRasterPicture::tilesHaveNoSeams()
 {
     QFETCH(int, projection);
+    QFETCH(int, style);
     Plot plot;
     QVERIFY(makeHill(plot, 2));
+    plot.setPlotStyle(style);
+    plot.setDotSize(7.0);
     plot.setProjectionType(ProjectionType(projection));
     plot.resize(320, 240);
     const QImage whole = RasterPicture(plot, ofSize(800, 600)).render();
