@@ -66,6 +66,23 @@ void flatten(std::array<GL2PSvertex, 3>& corners)
         std::copy(mean.begin(), mean.end(), corner.rgba);
 }
 
+/// gl2ps clips each layer to the page, where all lies anyway, by elements of one name, which some viewers
+/// paint.
+QByteArray withoutClips(QByteArray file)
+{
+    for (int start = file.indexOf("<clipPath"); start >= 0; start = file.indexOf("<clipPath", start)) {
+        const QByteArray end = "</clipPath>\n";
+        const int found = file.indexOf(end, start);
+        if (found < 0)
+            break;
+        file.remove(start, found + end.size() - start);
+        const QByteArray use = "<g clip-path=";
+        if (file.mid(start, use.size()) == use)
+            file.replace(start, file.indexOf('>', start) - start, "<g");
+    }
+    return file;
+}
+
 GL2PSvertex toVertex(const WindowPrimitive::Vertex& vertex, double scale)
 {
     GL2PSvertex result{};
@@ -308,7 +325,10 @@ QByteArray VectorPage::finish()
     stream = nullptr;
     if (failed || (result != GL2PS_SUCCESS && result != GL2PS_NO_FEEDBACK))
         return QByteArray();
-    return format == Pdf ? completedPdf() : QByteArray(written, int(writtenSize));
+    if (format == Pdf)
+        return completedPdf();
+    const QByteArray file(written, int(writtenSize));
+    return format == Svg ? withoutClips(file) : file;
 }
 
 } // namespace Zel3D

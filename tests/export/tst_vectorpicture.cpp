@@ -4,7 +4,9 @@
 #include "exportfixture.h"
 #include "harness/harness.h"
 
+#include <QBuffer>
 #include <QFontInfo>
+#include <QImageReader>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
@@ -57,6 +59,17 @@ QImage shown(const QByteArray& pdf, int dotsPerInch)
     return QImage(folder.filePath("page.png"));
 }
 
+QImage svgShown(QByteArray svg, const QSize& size)
+{
+    QBuffer buffer(&svg);
+    QImageReader reader(&buffer, "svg");
+    reader.setScaledSize(size);
+    QImage page(size, QImage::Format_RGB32);
+    page.fill(Qt::white);
+    QPainter(&page).drawImage(0, 0, reader.read());
+    return page;
+}
+
 PictureOptions limited(int mostPolygons)
 {
     PictureOptions options;
@@ -73,8 +86,8 @@ private slots:
     void init() { harness::clearStore(); }
     void textsAreTexts_data();
     void textsAreTexts();
-    void pdfShowsWhatTheRasterShows_data();
-    void pdfShowsWhatTheRasterShows();
+    void showsWhatTheRasterShows_data();
+    void showsWhatTheRasterShows();
     void frontHidesBack();
     void linesEndWhereDataHideThem();
     void strokesAreInProportion();
@@ -121,25 +134,32 @@ void TestVectorPicture::textsAreTexts()
     QCOMPARE(run("pdfimages", {"-list", path}).count('\n') - 2, hybrid ? 1 : 0);
 }
 
-void TestVectorPicture::pdfShowsWhatTheRasterShows_data()
+void TestVectorPicture::showsWhatTheRasterShows_data()
 {
     QTest::addColumn<int>("mostPolygons");
     QTest::addColumn<bool>("transparent");
-    QTest::newRow("vectors") << 30000 << false;
-    QTest::newRow("hybrid") << 100 << false;
-    QTest::newRow("transparent hybrid") << 100 << true;
+    QTest::addColumn<int>("format");
+    const int pdf = VectorPicture::Pdf;
+    const int svg = VectorPicture::Svg;
+    QTest::newRow("PDF") << 30000 << false << pdf;
+    QTest::newRow("hybrid PDF") << 100 << false << pdf;
+    QTest::newRow("transparent hybrid PDF") << 100 << true << pdf;
+    QTest::newRow("SVG") << 30000 << false << svg;
+    QTest::newRow("transparent hybrid SVG") << 100 << true << svg;
 }
 
-void TestVectorPicture::pdfShowsWhatTheRasterShows()
+void TestVectorPicture::showsWhatTheRasterShows()
 {
     QFETCH(int, mostPolygons);
     QFETCH(bool, transparent);
+    QFETCH(int, format);
     Plot plot;
     QVERIFY(makeHill(plot, 2));
     plot.resize(400, 300);
     PictureOptions options = limited(mostPolygons);
     options.transparent = transparent;
-    const QImage page = shown(VectorPicture(plot, VectorPicture::Pdf, options).render(), 192);
+    const QByteArray file = VectorPicture(plot, VectorPicture::Format(format), options).render();
+    const QImage page = format == VectorPicture::Pdf ? shown(file, 192) : svgShown(file, QSize(800, 600));
     QCOMPARE(page.size(), QSize(800, 600));
     options.pixels = QSize(800, 600);
     options.transparent = false;
