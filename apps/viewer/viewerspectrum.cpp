@@ -1,6 +1,5 @@
 #include "viewerspectrum.h"
 
-#include "plots/autoscaling.h"
 #include "plotstyles.h"
 #include "spectra.h"
 
@@ -59,6 +58,6 @@ bool ViewerSpectrum::load(const Spectra& spectra)
 
 Zel3D::ValueXYZ<double> ViewerSpectrum::recalculateAutoScale()
 {
-    const Zel3D::ValueXYZ<double> cube = Zel3D::AutoScaling::scaleOf(getHull());
+    const Zel3D::ValueXYZ<double> cube = Zel3D::Spectrum::recalculateAutoScale();
     return {cube.x, depthPart * cube.y, heightPart * cube.z};
 }

@@ -1,5 +1,6 @@
 #include "plots/arrowaddition.h"
 
+#include "scene/basedraw.h"
 #include "view/glscopes.h"
 #include "view/rotateonto.h"
 
@@ -75,7 +76,7 @@ void ArrowAddition::draw(const QVector3D& p)
     const ModelViewScope matrix;
     glTranslatef(p.x(), p.y(), p.z());
     rotateOnto(direction);
-    glLineWidth(1.0F);
+    BaseDraw::setGLUnclampedLineWidth(1.0F);
     glBegin(GL_LINES);
     glVertex3d(0.0, 0.0, 0.0);
     glVertex3d(0.0, 0.0, length);

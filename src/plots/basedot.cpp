@@ -42,7 +42,7 @@ void BaseDot::begin()
 void BaseDot::end()
 {
     BaseDraw::setGLEnable(GL_POINT_SMOOTH, previousSmooth);
-    BaseDraw::setGLPointSize(previousSize);
+    BaseDraw::restoreGLPointSize(previousSize);
 }
 
 void BaseDot::select(const QVector3D& p)

@@ -8,9 +8,11 @@
 #include "plots/baseplotsettings.h"
 #include "plots/pickhighlight.h"
 #include "plots/pickpass.h"
+#include "plots/pictureframe.h"
 #include "plots/plotactions.h"
 #include "plots/settingsdialogoptions.h"
 #include "scene/coordinatesystem.h"
+#include "scene/drawtarget.h"
 #include "scene/facepolicy.h"
 #include "scene/legend.h"
 #include "scene/title.h"
@@ -113,7 +115,9 @@ void BasePlot::initializeGL()
 
 void BasePlot::drawWithoutTransform()
 {
-    const double ratio = devicePixelRatioF();
+    if (picture && !picture->parts.testFlag(PictureFrame::Overlay))
+        return;
+    const double ratio = textRatio();
     title->setPixelRatio(ratio);
     legend->setPixelRatio(ratio);
     // Of what is painted on, which need not be the window.
@@ -153,21 +157,28 @@ void BasePlot::draw()
 {
     warnWithoutGradient();
     const ModelViewScope matrix;
-    applyShading();
-    {
-        const AttributeScope attributes(listState);
-        if (isLighting())
-            glEnable(GL_NORMALIZE);
-        for (const DisplayList& list : drawingLists)
-            list.call();
+    if (picture) {
+        drawTile();
+        return;
     }
+    drawData();
     drawCoordinateSystem();
     pickHighlight->draw(devicePixelRatioF());
 }
 
+void BasePlot::drawData()
+{
+    applyShading();
+    const AttributeScope attributes(listState);
+    if (isLighting())
+        glEnable(GL_NORMALIZE);
+    for (const DisplayList& list : drawingLists)
+        list.call();
+}
+
 void BasePlot::drawCoordinateSystem()
 {
-    coordinateSystem->setPixelRatio(devicePixelRatioF());
+    coordinateSystem->setPixelRatio(textRatio());
     coordinateSystem->setViewScale(getScale());
     if (automaticEdges) {
         *edges = chooseEdges(currentViewFrame(), first(), second(), edges.get());

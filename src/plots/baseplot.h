@@ -22,6 +22,7 @@ class Addition;
 class CoordinateSystem;
 class Data;
 class DataColor;
+class Label;
 class Legend;
 class PickHighlight;
 class PickPass;
@@ -30,7 +31,9 @@ class PlotActions;
 class StyleAction;
 class SettingsDialogOptions;
 class Title;
+struct DrawTarget;
 struct EdgeChoice;
+struct PictureFrame;
 
 /// The widget that every plot is: the view plus data colouring, additions, display lists, automatic scaling
 /// and the plot's own settings. The subclass supplies the data and the geometry of each plot style.
@@ -214,6 +217,24 @@ public:
     void updateData();
     void updateNormals();
     void updateSelection();
+
+    /// @name Pictures
+    /// The steps of which pictures are made; see PictureWriter, which calls them.
+    /// @{
+
+    /// Makes the display lists of a picture: strokes are wider by a factor and, for feedback mode, told. The
+    /// window keeps its own lists. Works before the plot was ever shown, which initialises it. False, with
+    /// nothing to end, when there is no context or the plot is just loading.
+    bool beginPicture(double strokeScale, bool tellStrokes);
+    /// Draws a part of a picture into the current framebuffer, at a viewport from (0, 0) of the tile's size;
+    /// puts back viewport and matrices. Between beginPicture() and endPicture(), with the plot's own context
+    /// current.
+    void paintPicture(const PictureFrame& frame);
+    /// Frees what beginPicture() made. Makes the plot's context current.
+    void endPicture();
+    /// Every text that the last frame, or the last picture, showed. Valid until the plot draws again.
+    QVector<const Label*> getShownTexts() const;
+    /// @}
 
 protected:
     void drawWithoutTransform() override;
@@ -409,6 +430,10 @@ private:
     void warnWithoutGradient();
     void applyShading() const;
     void drawCoordinateSystem();
+    void drawData();
+    /// Device pixels per logical pixel of what is drawn on.
+    double textRatio() const;
+    void drawTile();
     /// Logical pixels that the legend leaves to the title at the top of a window of a size in pixels.
     double reservedTop(const QSize& window);
     void applyScale(BaseAxisType axis);
@@ -422,6 +447,10 @@ private:
     std::unique_ptr<PickPass> pickPass;
     std::unique_ptr<PickHighlight> pickHighlight;
     const QGLContext* listContext = nullptr; ///< where the lists live
+    std::array<DisplayList, 2> pictureLists; ///< those of the window while a picture is drawn
+    const QGLContext* pictureContext = nullptr;
+    std::unique_ptr<DrawTarget> pictureTarget; ///< while pictures are made
+    const PictureFrame* picture = nullptr;     ///< while a picture is drawn
     bool dataDirty = false;
     bool normalsDirty = false;
     bool selectionDirty = true;

@@ -19,7 +19,7 @@ public:
     ~BlendScope()
     {
         glBlendFunc(GLenum(source), GLenum(destination));
-        BaseDraw::setGLLineWidth(lineWidth);
+        BaseDraw::restoreGLLineWidth(lineWidth);
     }
     BlendScope(const BlendScope&) = delete;
     BlendScope& operator=(const BlendScope&) = delete;

@@ -329,7 +329,7 @@ QVector3D Axis::labelPosition() const
 void Axis::drawLine()
 {
     // Not through the clamping helper: a width that the driver refuses leaves the width that is set.
-    glLineWidth(float(settings.getLine().getWidth()));
+    setGLUnclampedLineWidth(float(settings.getLine().getWidth()));
     glBegin(GL_LINES);
     vertex(start);
     vertex(end);
@@ -340,13 +340,13 @@ void Axis::drawTics()
 {
     const TicsSettings& tics = settings.getTics();
     const bool numbersVisible = settings.getNumbers().isVisible();
-    glLineWidth(float(settings.getMajor().getLineWidth()));
+    setGLUnclampedLineWidth(float(settings.getMajor().getLineWidth()));
     for (Major& major : majors) {
         drawTic(major.position, tics.getMajorLength(), tics.getOrientation(), tics.getStyle());
         if (numbersVisible)
             major.label.draw();
     }
-    glLineWidth(float(settings.getMinor().getLineWidth()));
+    setGLUnclampedLineWidth(float(settings.getMinor().getLineWidth()));
     for (const QVector3D& minor : qAsConst(minors))
         drawTic(minor, tics.getMinorLength(), tics.getOrientation(), tics.getStyle());
 }
@@ -374,7 +374,7 @@ void Axis::drawHighlightBox()
             return;
     }
     setColor(Qt::red);
-    glLineWidth(1.0F);
+    setGLUnclampedLineWidth(1.0F);
     glBegin(GL_LINES);
     for (std::size_t i = 0; i < 4; ++i) {
         vertex(highlightBox[i]);

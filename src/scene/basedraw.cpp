@@ -1,5 +1,7 @@
 #include "scene/basedraw.h"
 
+#include "scene/drawtarget.h"
+#include "scene/viewframe.h"
 #include "view/opengl.h"
 
 #include <QSettings>
@@ -38,6 +40,20 @@ float clampToRange(unsigned int rangeName, float value)
     glGetFloatv(rangeName, range.data());
     const float floor = value > 0.0F ? value : 0.0F;
     return range[0] > floor ? range[0] : std::min(floor, range[1]);
+}
+
+float strokeScale()
+{
+    return float(DrawTargetScope::current().strokeScale);
+}
+
+void tell(StrokeToken token, std::initializer_list<float> values)
+{
+    if (!DrawTargetScope::current().tellStrokes)
+        return;
+    glPassThrough(float(token));
+    for (float value : values)
+        glPassThrough(value);
 }
 
 } // namespace
@@ -105,11 +121,12 @@ void BaseDraw::restoreGLState()
 {
     setGLEnable(GL_LINE_SMOOTH, state.lineSmooth);
     setGLEnable(GL_POLYGON_SMOOTH, state.polygonSmooth);
-    setGLLineWidth(state.lineWidth);
+    restoreGLLineWidth(state.lineWidth);
     glBlendFunc(GLenum(state.blendSource), GLenum(state.blendDestination));
     glColor4dv(state.color.data());
     glLineStipple(state.stippleRepeat, GLushort(state.stipplePattern & 0xFFFF));
     setGLEnable(GL_LINE_STIPPLE, state.stipple);
+    tell(LineStippleToken, {float(state.stipplePattern), state.stipple ? float(state.stippleRepeat) : 0.0F});
     setGLEnable(GL_TEXTURE_2D, state.texture);
     // The stored front mode goes where the face belongs. OpenGL rejects the call and keeps the polygon mode;
     // the call is part of the drawing order and stays.
@@ -149,12 +166,43 @@ void BaseDraw::setGLEnable(unsigned int capability, unsigned char on)
 
 void BaseDraw::setGLLineWidth(float width)
 {
-    glLineWidth(clampToRange(GL_LINE_WIDTH_RANGE, width));
+    const float scaled = width * strokeScale();
+    glLineWidth(clampToRange(GL_LINE_WIDTH_RANGE, scaled));
+    tell(LineWidthToken, {scaled});
+}
+
+void BaseDraw::setGLUnclampedLineWidth(float width)
+{
+    const float scaled = width * strokeScale();
+    glLineWidth(scaled);
+    if (scaled > 0.0F)
+        tell(LineWidthToken, {scaled});
+}
+
+void BaseDraw::setGLLineStipple(int repeat, int pattern)
+{
+    const int scaled = std::clamp(qRound(double(repeat) * double(strokeScale())), 1, 256);
+    glLineStipple(scaled, GLushort(pattern & 0xFFFF));
+    tell(LineStippleToken, {float(pattern & 0xFFFF), float(scaled)});
+}
+
+void BaseDraw::restoreGLLineWidth(float width)
+{
+    glLineWidth(width);
+    tell(LineWidthToken, {width});
+}
+
+void BaseDraw::restoreGLPointSize(float size)
+{
+    glPointSize(size);
+    tell(PointSizeToken, {size});
 }
 
 void BaseDraw::setGLPointSize(float size)
 {
-    glPointSize(clampToRange(GL_POINT_SIZE_RANGE, size));
+    const float scaled = size * strokeScale();
+    glPointSize(clampToRange(GL_POINT_SIZE_RANGE, scaled));
+    tell(PointSizeToken, {scaled});
 }
 
 void BaseDraw::setGLPolygonOffset(float factor, float units)
@@ -164,9 +212,10 @@ void BaseDraw::setGLPolygonOffset(float factor, float units)
 
 void BaseDraw::fetchMatrices()
 {
-    glGetIntegerv(GL_VIEWPORT, viewport.data());
-    glGetDoublev(GL_MODELVIEW_MATRIX, modelview.data());
-    glGetDoublev(GL_PROJECTION_MATRIX, projection.data());
+    const ViewFrame frame = currentViewFrame();
+    viewport = frame.viewport;
+    modelview = frame.modelview;
+    projection = frame.projection;
 }
 
 QVector3D BaseDraw::World2ViewPort(QVector3D world, bool* failed)

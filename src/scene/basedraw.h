@@ -60,9 +60,17 @@ public:
     /// glEnable when \a on is not zero, else glDisable.
     static void setGLEnable(unsigned int capability, unsigned char on);
     /// glLineWidth with the width clamped to what the driver offers; negative widths give the thinnest line.
+    /// These four multiply by the stroke scale of the target in force; see DrawTarget.
     static void setGLLineWidth(float width);
     /// glPointSize with the size clamped to what the driver offers.
     static void setGLPointSize(float size);
+    /// glLineWidth without the clamp: a width that the driver refuses leaves the width that is set.
+    static void setGLUnclampedLineWidth(float width);
+    /// glLineStipple, which a repeat of 1 draws at the size of the window's pixels.
+    static void setGLLineStipple(int repeat, int pattern);
+    /// Put back a width or size that glGet reported, as it is.
+    static void restoreGLLineWidth(float width);
+    static void restoreGLPointSize(float size);
     static void setGLPolygonOffset(float factor, float units);
 
     /// Window coordinates (pixels from the lower left corner, depth 0 to 1) of a point of the world, with the

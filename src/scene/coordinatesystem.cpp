@@ -315,7 +315,7 @@ void CoordinateSystem::drawGridLines(double width, int style, PairRoutine drawPa
     glColor4d(color.redF(), color.greenF(), color.blueF(), color.alphaF());
     setGLLineWidth(float(width));
     glEnable(GL_LINE_STIPPLE);
-    glLineStipple(1, GLushort(style & 0xFFFF));
+    setGLLineStipple(1, style);
     glBegin(GL_LINES);
     for (const GridFace& face : faces) {
         if (!(shown & face.bit))

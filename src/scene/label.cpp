@@ -276,9 +276,14 @@ void Label::setRasterPosition()
     // in the middle of the view, under matrices of its own, and moved from there by an empty bitmap, which
     // may leave the view. The matrices are loaded back and not popped: the projection stack may be only two
     // deep.
-    const QPoint middle(viewport[0] + viewport[2] / 2, viewport[1] + viewport[3] / 2);
-    rasterPosition.setX(float(2.0 * (viewport[2] / 2) / viewport[2] - 1.0));
-    rasterPosition.setY(float(2.0 * (viewport[3] / 2) / viewport[3] - 1.0));
+    // They are those of the tile, where a tile of a picture is drawn, and not the picture's.
+    std::array<int, 4> view{};
+    std::array<double, 16> drawn{};
+    glGetIntegerv(GL_VIEWPORT, view.data());
+    glGetDoublev(GL_PROJECTION_MATRIX, drawn.data());
+    const QPoint middle(view[0] + view[2] / 2, view[1] + view[3] / 2);
+    rasterPosition.setX(float(2.0 * (view[2] / 2) / view[2] - 1.0));
+    rasterPosition.setY(float(2.0 * (view[3] / 2) / view[3] - 1.0));
     rasterPosition.setZ(float(2.0 * placement.depth - 1.0));
     int mode = 0;
     glGetIntegerv(GL_MATRIX_MODE, &mode);
@@ -289,7 +294,7 @@ void Label::setRasterPosition()
     glRasterPos3d(double(rasterPosition.x()), double(rasterPosition.y()), double(rasterPosition.z()));
     glLoadMatrixd(modelview.data());
     glMatrixMode(GL_PROJECTION);
-    glLoadMatrixd(projection.data());
+    glLoadMatrixd(drawn.data());
     glMatrixMode(GLenum(mode));
     const QPoint move = placement.corner - middle;
     glBitmap(0, 0, 0.0F, 0.0F, float(move.x()), float(move.y()), nullptr);

@@ -10,6 +10,10 @@ namespace {
 /// A window is smaller than this; what lies further off needs no whole-number position.
 constexpr double farAway = 1e6;
 
+/// Boxes whose anchor lies at the centre of a pixel are often just between two pixels: the digits that the
+/// matrices lose must not decide, or a text would differ by a pixel between frames and between tiles.
+constexpr double tie = 0.01;
+
 } // namespace
 
 QPointF labelOffset(const LabelBox& box)
@@ -47,7 +51,7 @@ LabelPlacement placeLabel(const WindowPoint& anchor, const LabelBox& box)
     if (std::max(std::abs(x), std::abs(y)) > farAway)
         return placement;
     placement.visible = true;
-    placement.corner = QPoint(int(std::floor(x + 0.5)), int(std::floor(y + 0.5)));
+    placement.corner = QPoint(int(std::floor(x + 0.5 + tie)), int(std::floor(y + 0.5 + tie)));
     placement.depth = anchor.depth;
     return placement;
 }

@@ -388,7 +388,7 @@ void Legend::drawValue()
     vertex(from);
     vertex(from + (lying ? up : right));
     glEnd();
-    glLineWidth(widthBefore);
+    restoreGLLineWidth(widthBefore);
 }
 
 } // namespace Zel3D

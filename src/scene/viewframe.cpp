@@ -1,5 +1,6 @@
 #include "scene/viewframe.h"
 
+#include "scene/drawtarget.h"
 #include "view/opengl.h"
 
 #include <cmath>
@@ -18,7 +19,29 @@ std::array<double, 4> transformed(const std::array<double, 16>& matrix, const st
     return result;
 }
 
+/// The frame of the whole picture. Its projection is told and not computed back from that of the tile, so
+/// that every tile places texts at the same pixels.
+void widen(ViewFrame& frame, const DrawTarget& target)
+{
+    frame.projection = target.projection;
+    frame.viewport = {frame.viewport[0] - target.tile.x(), frame.viewport[1] - target.tile.y(),
+                      target.whole.width(), target.whole.height()};
+}
+
 } // namespace
+
+std::array<double, 16> tileMatrix(const DrawTarget& target)
+{
+    std::array<double, 16> matrix{1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
+    if (!target.isTiled())
+        return matrix;
+    const QRectF tile(target.tile);
+    matrix[0] = target.whole.width() / tile.width();
+    matrix[5] = target.whole.height() / tile.height();
+    matrix[12] = (target.whole.width() - 2.0 * tile.center().x()) / tile.width();
+    matrix[13] = (target.whole.height() - 2.0 * tile.center().y()) / tile.height();
+    return matrix;
+}
 
 WindowPoint projectToWindow(const ViewFrame& frame, const QVector3D& world)
 {
@@ -41,6 +64,8 @@ ViewFrame currentViewFrame()
     glGetDoublev(GL_MODELVIEW_MATRIX, frame.modelview.data());
     glGetDoublev(GL_PROJECTION_MATRIX, frame.projection.data());
     glGetIntegerv(GL_VIEWPORT, frame.viewport.data());
+    if (DrawTargetScope::current().isTiled())
+        widen(frame, DrawTargetScope::current());
     return frame;
 }
 

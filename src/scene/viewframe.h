@@ -6,6 +6,8 @@
 
 namespace Zel3D {
 
+struct DrawTarget;
+
 /// What places the world in the window: the two matrices in OpenGL's column order and the viewport (x, y,
 /// width, height in pixels).
 struct ViewFrame
@@ -27,7 +29,12 @@ struct WindowPoint
 /// Where a point of the world lies in the window. Unlike gluProject it tells points behind the eye.
 WindowPoint projectToWindow(const ViewFrame& frame, const QVector3D& world);
 
-/// The frame of the matrices that are current. Needs a current context.
+/// The frame of the matrices that are current. While a tile of a picture is drawn, that of the whole picture,
+/// with window coordinates counted from the tile. Needs a current context.
 ViewFrame currentViewFrame();
+
+/// The matrix, in OpenGL's column order, that spreads a tile of a picture over the viewport when it stands
+/// before the projection; the identity without a tile.
+VORANPLOT_EXPORT std::array<double, 16> tileMatrix(const DrawTarget& target);
 
 } // namespace Zel3D

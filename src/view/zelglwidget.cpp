@@ -95,8 +95,15 @@ void ZelGLWidget::paintGL()
         return;
     if (isAutoRotating())
         autoRotationStep();
-    glClearColor(float(backgroundColor.redF()), float(backgroundColor.greenF()),
-                 float(backgroundColor.blueF()), float(backgroundColor.alphaF()));
+    paintFrame(backgroundColor, showLights);
+    if (showInfo)
+        drawInfo();
+}
+
+void ZelGLWidget::paintFrame(const QColor& clearColor, bool lightMarkers)
+{
+    glClearColor(float(clearColor.redF()), float(clearColor.greenF()), float(clearColor.blueF()),
+                 float(clearColor.alphaF()));
     glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
 
     glMatrixMode(GL_MODELVIEW);
@@ -111,21 +118,19 @@ void ZelGLWidget::paintGL()
 
     if (lighting)
         glEnable(GL_LIGHTING);
-    drawScene();
+    drawScene(lightMarkers);
     if (lighting)
         glDisable(GL_LIGHTING);
-    if (showInfo)
-        drawInfo();
 }
 
-void ZelGLWidget::drawScene()
+void ZelGLWidget::drawScene(bool lightMarkers)
 {
     glMatrixMode(GL_PROJECTION);
     glPushMatrix();
     orthoGL();
     if (lighting) {
         applyLights();
-        if (showLights)
+        if (lightMarkers)
             drawLights();
     }
     draw();
@@ -164,7 +169,8 @@ void ZelGLWidget::orthoGL()
     const QVector3D s = second();
     const QVector3D f = first();
     const bool empty = f.x() == s.x() && f.y() == s.y() && f.z() == s.z();
-    const double aspect = keepProportions ? double(qMax(width(), 1)) / qMax(height(), 1) : 1.0;
+    const double windowAspect = double(qMax(width(), 1)) / qMax(height(), 1);
+    const double aspect = !keepProportions ? 1.0 : frameAspect > 0.0 ? frameAspect : windowAspect;
     const double halfWidth = (empty ? 1.0 : r) * qMax(aspect, 1.0);
     const double halfHeight = (empty ? 1.0 : r) * qMax(1.0 / aspect, 1.0);
     const auto volume = projectionType == Orthogonal ? glOrtho : glFrustum;

@@ -230,6 +230,11 @@ public:
 protected:
     void hideEvent(QHideEvent* event) override;
 
+    /// Clears to a colour and draws one frame into the current framebuffer, over the current viewport and in
+    /// front of the current projection; no auto-rotation, no frame rate. Needs the widget's context.
+    void paintFrame(const QColor& clearColor, bool lightMarkers);
+    /// The width by the height that kept proportions go by; 0, the default: the window's.
+    void setFrameAspect(double aspect) { frameAspect = aspect; }
     /// Whether this widget's context is the current one, so that a setter may send to OpenGL.
     bool isContextCurrent() const;
     /// Raises the busy flag for a scope: nothing is painted while a derived plot rebuilds its data.
@@ -272,7 +277,7 @@ private:
     void writeZoom(double factor);
 
     void autoRotationStep();
-    void drawScene();
+    void drawScene(bool lightMarkers);
     void drawInfo();
     void setPickCamera(const QPointF& position);
     SelectedObjectsInfo pick(const QPointF& position);
@@ -290,6 +295,7 @@ private:
     ValueXY<double> viewportShift;
     ValueXYZ<double> scale{1.0, 1.0, 1.0};
     double zoom = 1.0;
+    double frameAspect = 0.0;
     ProjectionType projectionType = Orthogonal;
     bool selecting = false;
     bool lighting = false;

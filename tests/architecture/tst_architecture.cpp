@@ -19,6 +19,7 @@ const QMap<QString, QStringList> allowed = {
     {"view", {"core", "view"}},
     {"scene", {"core", "view", "scene"}},
     {"plots", {"core", "view", "scene", "gradients", "plots"}},
+    {"export", {"core", "view", "scene", "gradients", "plots", "export"}},
     {"settings", {"core", "view", "scene", "gradients", "plots", "settings"}},
 };
 
