@@ -3,6 +3,7 @@
 #include "plots/spectrum.h"
 
 #include "plots/datacheck.h"
+#include "settings/plotsettingsdialog.h"
 
 #include <limits>
 #include <new>
@@ -30,6 +31,11 @@ Spectrum::Spectrum(const QString& name, const QString& organizationName, const Q
 }
 
 Spectrum::~Spectrum() = default;
+
+void Spectrum::slotSettingsDialog()
+{
+    PlotSettingsDialog::run(*this);
+}
 
 void Spectrum::createPlotStyleActions()
 {
