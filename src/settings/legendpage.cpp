@@ -44,6 +44,23 @@ QVector<Field> rectangleFields(Legend& legend)
     return fields;
 }
 
+/// The ticks of the legend have widths of their own; those of the other axes are the grid's.
+QVector<Field> ticFields(Axis::Settings& axis)
+{
+    QVector<Field> fields = RecordFields::tics("legend/tics", axis.getTics());
+    const auto width = [](const QString& id, const QString& name, Axis::MajorMinorSettings& record) {
+        return Field::number(id, name, LegendPage::tr("The width of the ticks."))
+            .within(0.1, 20.0, 0.1, 2)
+            .in(LegendPage::tr("px"))
+            .inRow(LegendPage::tr("Width"))
+            .bind([&record] { return record.getLineWidth(); },
+                  [&record](double pixels) { return record.setLineWidth(pixels); });
+    };
+    fields.append(width("legend/tics/majorWidth", LegendPage::tr("Major"), axis.getMajor()));
+    fields.append(width("legend/tics/minorWidth", LegendPage::tr("Minor"), axis.getMinor()));
+    return fields;
+}
+
 } // namespace
 
 QVector<FieldGroup> LegendPage::describe(BasePlot& plot) const
@@ -76,7 +93,7 @@ QVector<FieldGroup> LegendPage::describe(BasePlot& plot) const
         {tr("Legend"), bar, {}},
         {tr("Rectangle"), rectangleFields(legend), {}},
         {tr("Axis line"), RecordFields::line("legend/line", axis.getLine()), {}},
-        {tr("Ticks"), RecordFields::tics("legend/tics", axis.getTics()), {}},
+        {tr("Ticks"), ticFields(axis), {}},
         {tr("Numbers"), RecordFields::numbers("legend/numbers", axis.getNumbers()), {}},
     };
 }

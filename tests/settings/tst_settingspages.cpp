@@ -412,26 +412,39 @@ void TestSettingsPages::everySignalHasAField()
 
 void TestSettingsPages::everyStoredKeyHasAField()
 {
-    // Computed from the data or the window, or another key of the same field.
-    const QStringList without{"%0/cylinder/radius", "%0/tics/majorLength", "%0/tics/minorLength",
-                              "%0/position",        "%0/orientation",      "%0/autoScaling",
-                              "%0/gradients/names", "%0/coordsystem",      "%0/additions",
-                              "%0/axis%1/scale%2"};
+    // Computed from the data or the window, another key of the same field, or a part of one value.
+    const QStringList without{"/cylinder/radius", "/tics/majorLength", "/tics/minorLength", "/position",
+                              "/orientation",     "/autoScaling",      "/gradients/names",  "/coordsystem",
+                              "/additions",       "/axis%1/scale%2"};
+    // The legend makes no room for a name and an arrow of its axis; a gradient and the markers are one value.
+    const QRegularExpression parts("/legend/axis/(arrow|label)/|/gradients/|/additions/|/dataColor/");
     const std::unique_ptr<BasePlot> plot = makePlot(false);
     QVector<Field> fields;
     for (const SettingsPageEntry& entry : PlotSettingsDialog::libraryPages()) {
         const std::unique_ptr<AbstractSettingsPage> page(entry.make());
         fields += fieldsOf(*page, *plot);
     }
-    editAll(fields, false);
-    const QHash<QString, QVariant> first = storeOf(*plot);
-    editAll(fields, false);
-    const QHash<QString, QVariant> second = storeOf(*plot);
+    // Twice the same by chance, but not three times.
+    QVector<QHash<QString, QVariant>> stores;
+    for (int round = 0; round < 3; ++round) {
+        editAll(fields, false);
+        stores.append(storeOf(*plot));
+    }
     QStringList changed;
-    for (const QString& key : second.keys()) {
-        if (first.value(key) != second.value(key))
+    for (const QString& key : stores.last().keys()) {
+        if (stores.at(0).value(key) != stores.at(2).value(key) ||
+            stores.at(1).value(key) != stores.at(2).value(key))
             changed.append(key);
     }
+    // What stands beside fields in a record and has none.
+    QStringList missing;
+    for (const QString& key : stores.last().keys()) {
+        const bool excused = std::any_of(without.cbegin(), without.cend(),
+                                         [&key](const QString& end) { return key.endsWith(end); });
+        if (!excused && !parts.match(key).hasMatch() && !changed.contains(key))
+            missing.append(key);
+    }
+    // And the keys of records that no field changes at all.
     QSet<QString> templates;
     for (const char* folder : {"plots", "scene", "view", "core"}) {
         QDirIterator files(QString(VORAN_SOURCE_DIR "/src/") + folder, {"*.cpp"}, QDir::Files);
@@ -447,7 +460,7 @@ void TestSettingsPages::everyStoredKeyHasAField()
     }
     QVERIFY(templates.size() > 60);
     for (const QString& key : qAsConst(templates)) {
-        if (without.contains(key))
+        if (without.contains(key.mid(2)))
             continue;
         QString pattern = QRegularExpression::escape(key.mid(2)).replace("\\%", "%");
         pattern.replace(QRegularExpression("%[0-9]"), "[^/]+");
@@ -455,8 +468,12 @@ void TestSettingsPages::everyStoredKeyHasAField()
         const bool edited = std::any_of(changed.cbegin(), changed.cend(), [&](const QString& changedKey) {
             return expression.match(changedKey).hasMatch();
         });
-        QVERIFY2(edited, qPrintable("no field changes " + key));
+        if (!edited)
+            missing.append(key);
     }
+    for (const QString& key : qAsConst(missing))
+        qWarning("No field changes %s", qPrintable(key));
+    QVERIFY(missing.isEmpty());
 }
 
 int main(int argc, char* argv[])
