@@ -3,6 +3,7 @@
 #include "settingsfixture.h"
 
 #include <QDirIterator>
+#include <QElapsedTimer>
 #include <QMetaMethod>
 #include <QRegularExpression>
 #include <QScrollArea>
@@ -138,7 +139,12 @@ void TestSettingsPages::changesElsewhereAreShown()
         if (!field.listeners.isEmpty())
             QVERIFY2(shows(field, *editor->getEditor(), wanted),
                      qPrintable(id + " does not follow the signal"));
-        const bool shown = QTest::qWaitFor([&] { return shows(field, *editor->getEditor(), wanted); }, 2000);
+        // QTest::qWaitFor() would sleep 10 ms for each of some hundred fields.
+        QElapsedTimer clock;
+        clock.start();
+        while (!shows(field, *editor->getEditor(), wanted) && clock.elapsed() < 2000)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        const bool shown = shows(field, *editor->getEditor(), wanted);
         QVERIFY2(shown, qPrintable(id + " does not show what was set elsewhere"));
         // What depends on this field should meet it as it was.
         field.write(before);
@@ -294,11 +300,15 @@ void editAll(const QVector<Field>& fields, bool withGates)
     }
 }
 
-QVector<Field> fieldsOf(const AbstractSettingsPage& page, BasePlot& plot)
+/// The fields of all pages of the library.
+QVector<Field> allFields(BasePlot& plot)
 {
     QVector<Field> fields;
-    for (const FieldGroup& group : page.describe(plot))
-        fields += group.fields;
+    for (const SettingsPageEntry& entry : PlotSettingsDialog::libraryPages()) {
+        const std::unique_ptr<AbstractSettingsPage> page(entry.make());
+        for (const FieldGroup& group : page->describe(plot))
+            fields += group.fields;
+    }
     return fields;
 }
 
@@ -341,50 +351,43 @@ public:
 
 void TestSettingsPages::everythingIsThereAfterARestart_data()
 {
-    QTest::addColumn<int>("page");
     QTest::addColumn<bool>("spectra");
     QTest::addColumn<bool>("withGates");
-    const QStringList names = pageNames();
-    for (int i = 0; i < names.size(); ++i) {
-        const bool hasGates = std::any_of(gates.cbegin(), gates.cend(),
-                                          [&](const QString& gate) { return gate.startsWith(names.at(i)); });
-        for (bool spectra : {false, true}) {
-            for (bool withGates : {false, true}) {
-                if (withGates && !hasGates)
-                    continue;
-                const QString name =
-                    QString("%1 of %2%3")
-                        .arg(names.at(i), spectra ? "spectra" : "a surface", withGates ? ", all" : "");
-                QTest::newRow(qPrintable(name)) << i << spectra << withGates;
-            }
-        }
-    }
+    QTest::newRow("surface") << false << false;
+    QTest::newRow("surface, all fields") << false << true;
+    QTest::newRow("spectra") << true << false;
+    QTest::newRow("spectra, all fields") << true << true;
 }
 
 void TestSettingsPages::everythingIsThereAfterARestart()
 {
-    QFETCH(int, page);
     QFETCH(bool, spectra);
     QFETCH(bool, withGates);
-    const std::unique_ptr<AbstractSettingsPage> edited(PlotSettingsDialog::libraryPages().at(page).make());
     QHash<QString, QVariant> wanted;
     {
         const std::unique_ptr<BasePlot> plot = makePlot(spectra);
+        const QVector<Field> fields = allFields(*plot);
         QHash<QString, QVariant> before;
-        for (const Field& field : fieldsOf(*edited, *plot))
+        for (const Field& field : fields)
             before.insert(field.id, field.read());
-        editAll(fieldsOf(*edited, *plot), withGates);
+        editAll(fields, withGates);
         int different = 0;
-        for (const Field& field : fieldsOf(*edited, *plot)) {
+        for (const Field& field : fields) {
             wanted.insert(field.id, field.read());
             different += sameValue(field.read(), before.value(field.id)) ? 0 : 1;
         }
-        QVERIFY(different * 2 > wanted.size());
+        QVERIFY(different * 10 > wanted.size() * 9);
         plot->slotSaveSettings();
     }
     const std::unique_ptr<BasePlot> plot = makePlot(spectra);
-    for (const Field& field : fieldsOf(*edited, *plot))
-        QVERIFY2(sameValue(field.read(), wanted.value(field.id)), qPrintable(field.id + " is lost"));
+    int lost = 0;
+    for (const Field& field : allFields(*plot)) {
+        if (sameValue(field.read(), wanted.value(field.id)))
+            continue;
+        qWarning("Lost: %s", qPrintable(field.id));
+        ++lost;
+    }
+    QCOMPARE(lost, 0);
 }
 
 void TestSettingsPages::everySignalHasAField()
@@ -419,11 +422,7 @@ void TestSettingsPages::everyStoredKeyHasAField()
     // The legend makes no room for a name and an arrow of its axis; a gradient and the markers are one value.
     const QRegularExpression parts("/legend/axis/(arrow|label)/|/gradients/|/additions/|/dataColor/");
     const std::unique_ptr<BasePlot> plot = makePlot(false);
-    QVector<Field> fields;
-    for (const SettingsPageEntry& entry : PlotSettingsDialog::libraryPages()) {
-        const std::unique_ptr<AbstractSettingsPage> page(entry.make());
-        fields += fieldsOf(*page, *plot);
-    }
+    const QVector<Field> fields = allFields(*plot);
     // Twice the same by chance, but not three times.
     QVector<QHash<QString, QVariant>> stores;
     for (int round = 0; round < 3; ++round) {
