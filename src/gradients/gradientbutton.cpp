@@ -44,6 +44,12 @@ void GradientButton::setCurrentName(const QString& name)
         take(name, all.value(name));
 }
 
+void GradientButton::clearCurrent()
+{
+    if (!current.isEmpty())
+        take(QString(), QLinearGradient());
+}
+
 void GradientButton::take(const QString& name, const QGradient& newGradient)
 {
     current = name;

@@ -21,6 +21,9 @@ public:
     QGradient getCurrentGradient() const { return gradient; }
     /// Unknown names are ignored. Emits gradientChanged() if the name or the gradient differs.
     void setCurrentName(const QString& name);
+    /// No gradient is current until a person or setCurrentName() chooses one. Emits gradientChanged() if one
+    /// was.
+    void clearCurrent();
 
 public slots:
     /// Opens the edit dialog. Of the built-in gradient, which does not change, a copy is made and edited.

@@ -30,6 +30,7 @@ public:
     bool setColor(const QColor& value);
     const QVector3D& getEnd() const { return tip; }
     const QColor& getColor() const { return color; }
+    int getQuality() const { return slices; }
 
     Addition* clone() const override;
     void draw(const QVector3D& p) override;

@@ -10,6 +10,7 @@
 #include "plots/pickpass.h"
 #include "plots/pictureframe.h"
 #include "plots/plotactions.h"
+#include "plots/plotproperties.h"
 #include "plots/settingsdialogoptions.h"
 #include "scene/coordinatesystem.h"
 #include "scene/drawtarget.h"
@@ -68,6 +69,7 @@ BasePlot::BasePlot(const QString& name, const QString& organizationName, const Q
     setDataColor(new DataColor(this, QString(), QLinearGradient()));
     connect(this, &ZelGLWidget::selectedObject, this, &BasePlot::highlightPick);
     createActions();
+    properties = std::make_unique<PlotProperties>(*this);
     // The hidden line style fills the surface with the background colour.
     connect(this, &ZelGLWidget::backgroundColorChanged, this, [this] { markDataChanged(); });
 }
@@ -299,24 +301,6 @@ void BasePlot::calculateHull() {}
 void BasePlot::createData() {}
 
 void BasePlot::createAddition(Addition& /*addition*/) {}
-
-Addition* BasePlot::addAddition(Addition& addition)
-{
-    if (!additions.contains(&addition)) {
-        additions.append(addition.clone());
-        markDataChanged();
-    }
-    return additions.last();
-}
-
-bool BasePlot::removeAddition(Addition* addition)
-{
-    if (!additions.removeOne(addition))
-        return false;
-    delete addition;
-    markDataChanged();
-    return true;
-}
 
 void BasePlot::resetNeedSave()
 {

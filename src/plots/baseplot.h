@@ -8,6 +8,9 @@
 
 #include <QGradient>
 #include <QList>
+#include <QMap>
+#include <QSet>
+#include <QVariant>
 
 #include <array>
 #include <memory>
@@ -28,6 +31,7 @@ class PickHighlight;
 class PickPass;
 class PickPoints;
 class PlotActions;
+class PlotProperties;
 class StyleAction;
 class SettingsDialogOptions;
 class Title;
@@ -152,6 +156,7 @@ public:
     bool setCylinderFrameVisible(bool on);
     bool setCylinderAngleZ(double degrees);
     bool setCylinderMultiplier(double factor); ///< emits cylinderMultiplier()
+    bool setCylinderOpacity(int percent);      ///< 0 to 100; other values are refused
     bool setDotSize(double pixels);
     bool setDotSmooth(bool on);
     bool setAxesScaleType(BaseAxisType axis, ScaleType scale); ///< emits axesScaleChanged()
@@ -159,6 +164,9 @@ public:
     bool setMajorInterval(BaseAxisType axis, ScaleType scale, int count);
     /// Keeps the gradient under the name, makes it the current one and colours the data with it; no signal.
     bool setGradient(const QString& name, const QGradient& gradient);
+    /// All gradients that the plot offers and the name of the one that colours the data; an unknown name
+    /// colours nothing. Unlike setGradient() it marks them for saving. Emits gradientsChanged().
+    bool setGradients(const QString& current, const QMap<QString, QGradient>& gradients);
     /// On: the hull is drawn as a cube and the user cannot scale. Off: back to the scale before. Only
     /// boxScalingChanged() follows.
     bool setAutoScaling(bool on);
@@ -209,6 +217,10 @@ public:
     void createCoordinateSystem(const QVector3D& firstCorner, const QVector3D& secondCorner);
     /// The same with the hull, calculated anew.
     void createCoordinateSystem();
+    /// Reads the records of the twelve axes and of the legend's axis (line, ticks, numbers, name, arrow) back
+    /// from where slotSaveSettings() writes them. slotLoadSettings() does not: call this after it. The
+    /// intervals stay those of the plot's own record. No repaint.
+    void loadAxesSettings();
     /// Marks everything as saved, but for the gradients; see BasePlotSettings::resetNeedSave().
     void resetNeedSave();
 
@@ -255,6 +267,13 @@ public:
     virtual Addition* addAddition(Addition& addition);
     /// Deletes an addition of the plot; false when it is none.
     virtual bool removeAddition(Addition* addition);
+    /// The additions as values that can be compared and stored; see describeMarker().
+    QVariantList getMarkers() const;
+    /// Makes the additions those of the list. What exists already stays, changed where it differs, and so do
+    /// all additions of a class of the host's; others that the list lacks are deleted. Entries of an unknown
+    /// kind are ignored. What is new is saved and loaded with the plot; what addAddition() added is not.
+    /// Returns whether anything changed; additionsChanged() follows.
+    bool setMarkers(const QVariantList& markers);
     /// False for a negative style, which changes nothing, and for the style in force. Otherwise deletes the
     /// style addition; a change emits plotStyleChanged().
     virtual bool setPlotStyle(int style);
@@ -362,6 +381,10 @@ signals:
     void automaticEdgesChanged(bool on);
     void automaticFacesChanged(bool on);
     void pickHighlightChanged(bool on);
+    void cylinderOpacityChanged(int percent);
+    void gradientsChanged();
+    /// By setMarkers() alone.
+    void additionsChanged();
 
 protected:
     void initializeGL() override;
@@ -436,6 +459,8 @@ private:
     void drawTile();
     /// Logical pixels that the legend leaves to the title at the top of a window of a size in pixels.
     double reservedTop(const QSize& window);
+    void saveMarkers() const;
+    void loadMarkers();
     void applyScale(BaseAxisType axis);
     void applyIntervals(BaseAxisType axis);
     void applyIntervals();
@@ -458,6 +483,7 @@ private:
     bool warnedOfLostValues = false;
     std::unique_ptr<Addition> styleAddition;
     QList<Addition*> additions;
+    QSet<const Addition*> addedMarkers; ///< those of them that setMarkers() made
     QGradient currentGradient;
     ValueXYZ<double> userScale;
     ValueXYZ<double> automaticScale;
@@ -479,6 +505,7 @@ private:
     Parallelepiped fixedHull;
     Pair<double> gradientRange;
     std::unique_ptr<PlotActions> actions;
+    std::unique_ptr<PlotProperties> properties;
 };
 
 } // namespace Zel3D

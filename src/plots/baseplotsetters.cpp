@@ -1,6 +1,7 @@
-// Setters and slots of a plot, and what it keeps in the settings store.
+// Setters and slots of a plot.
 
 #include "core/datacolor.h"
+#include "core/gradientstops.h"
 #include "plots/addition.h"
 #include "plots/baseplot.h"
 #include "plots/baseplotsettings.h"
@@ -8,8 +9,6 @@
 #include "scene/coordinatesystem.h"
 #include "scene/legend.h"
 #include "scene/title.h"
-
-#include <QSettings>
 
 namespace Zel3D {
 
@@ -168,6 +167,15 @@ bool BasePlot::setCylinderMultiplier(double factor)
     return true;
 }
 
+bool BasePlot::setCylinderOpacity(int percent)
+{
+    if (!settings->getCylinder().setOpacity(percent))
+        return false;
+    markDataChanged();
+    emit cylinderOpacityChanged(percent);
+    return true;
+}
+
 bool BasePlot::setDotSize(double pixels)
 {
     if (!settings->getDot().setSize(pixels))
@@ -280,6 +288,17 @@ bool BasePlot::setGradient(const QString& name, const QGradient& gradient)
     if (!settings->getGradients().setGradient(name, gradient))
         return false;
     setDataColor(new DataColor(this, name, gradient));
+    return true;
+}
+
+bool BasePlot::setGradients(const QString& current, const QMap<QString, QGradient>& gradients)
+{
+    if (!settings->getGradients().setData(current, gradients))
+        return false;
+    const QGradient colors = gradients.value(current, QLinearGradient());
+    if (!dataColor || dataColor->getId() != current || !sameGradient(dataColor->getGradient(), colors))
+        setDataColor(new DataColor(this, current, colors));
+    emit gradientsChanged();
     return true;
 }
 
@@ -401,43 +420,6 @@ void BasePlot::slotSetGridStyle(int faces)
 void BasePlot::slotSetTitle(const QString& text)
 {
     title->getSettings().setText(text);
-}
-
-void BasePlot::saveSettings()
-{
-    settings->saveSettings(objectName(), getOrganization(), getApplication());
-    {
-        QSettings store(getOrganization(), getApplication());
-        store.setValue(QString("%0/autoScaling").arg(objectName()), autoScaling);
-    }
-    title->saveSettings(objectName(), getOrganization(), getApplication());
-    coordinateSystem->saveSettings(objectName(), getOrganization(), getApplication());
-    legend->saveSettings(objectName(), getOrganization(), getApplication());
-    if (dataColor)
-        dataColor->saveSettings(objectName(), getOrganization(), getApplication());
-}
-
-void BasePlot::loadSettings()
-{
-    settings->loadSettings(objectName(), getOrganization(), getApplication());
-    const QSettings store(getOrganization(), getApplication());
-    const bool automatic = store.value(QString("%0/autoScaling").arg(objectName()), autoScaling).toBool();
-    // The scale of the view was loaded before: without automatic scaling it is the user's.
-    if (!automatic)
-        userScale = getScale();
-    if (!setAutoScaling(automatic))
-        updateAutoScale();
-    applyIntervals();
-    title->loadSettings(objectName(), getOrganization(), getApplication());
-    legend->loadSettings(objectName(), getOrganization(), getApplication());
-    coordinateSystem->loadSettings(objectName(), getOrganization(), getApplication());
-    if (dataColor) {
-        dataColor->loadSettings(objectName(), getOrganization(), getApplication());
-        setDataColor(dataColor.get());
-    }
-    markAllChanged();
-    updateGridStyleToolBar();
-    updatePlotStyleToolBar();
 }
 
 } // namespace Zel3D

@@ -4,6 +4,7 @@
 
 #include "core/dataorigin.h"
 #include "plots/datacheck.h"
+#include "settings/plotsettingsdialog.h"
 
 #include <QCoreApplication>
 
@@ -40,6 +41,11 @@ Spectrum::Spectrum(QWidget* parent)
 }
 
 Spectrum::~Spectrum() = default;
+
+void Spectrum::slotSettingsDialog()
+{
+    PlotSettingsDialog::run(*this);
+}
 
 void Spectrum::createPlotStyleActions()
 {

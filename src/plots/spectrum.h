@@ -58,6 +58,11 @@ public:
     void updateDataType(int type) override;
     void clearData() override;
 
+public slots:
+    /// Opens the settings dialog, or raises the one that is open already. Returns when it is closed; the plot
+    /// may have been deleted then.
+    void slotSettingsDialog() override;
+
 protected:
     void createPlotStyleActions() override;
     void calculateHull() override;

@@ -20,6 +20,7 @@ QVector<FieldEditor*> AbstractSettingsGroupBox::getEditors() const
 
 FieldEditor* AbstractSettingsGroupBox::reveal(const QString& id)
 {
+    prepare(id);
     for (FieldForm* form : getForms()) {
         for (FieldEditor* editor : form->getEditors()) {
             if (editor->getId() == id) {

@@ -26,7 +26,7 @@ QVariant usableDefault(const Field& field, const QVariant& asConstructed)
     const bool offered = field.offers.isEmpty() ||
                          std::any_of(field.offers.cbegin(), field.offers.cend(),
                                      [&](const Field::Offer& offer) { return offer.value == asConstructed; });
-    return asConstructed.isValid() && offered ? asConstructed : field.read();
+    return asConstructed.isValid() && offered && field.resets ? asConstructed : field.read();
 }
 
 } // namespace
@@ -61,11 +61,18 @@ void AbstractSettingsPage::addBoxes(FieldBinder& binder)
         if (together.first().tab.isEmpty())
             box = new FormGroupBox(together.first(), binder, this);
         else
-            box = new TabbedGroupBox(together, binder, this);
+            box = makeTabs(together, binder);
+        connect(box, &AbstractSettingsGroupBox::formsAdded, this, &AbstractSettingsPage::alignLabels);
         boxes.append(box);
         layout->addWidget(box);
     }
     layout->addStretch(1);
+}
+
+AbstractSettingsGroupBox* AbstractSettingsPage::makeTabs(const QVector<FieldGroup>& groups,
+                                                         FieldBinder& binder)
+{
+    return new TabbedGroupBox(groups, binder, this);
 }
 
 void AbstractSettingsPage::alignLabels()

@@ -39,6 +39,8 @@ public:
 protected:
     void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
+    /// The box of groups with tabs.
+    virtual AbstractSettingsGroupBox* makeTabs(const QVector<FieldGroup>& groups, FieldBinder& binder);
 
 private:
     void addBoxes(FieldBinder& binder);

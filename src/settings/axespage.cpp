@@ -1,35 +1,20 @@
 #include "settings/axespage.h"
 
 #include "plots/baseplot.h"
+#include "scene/boxedges.h"
 #include "scene/coordinatesystem.h"
+#include "settings/axesgroupbox.h"
+#include "settings/boxpicker.h"
 #include "settings/recordfields.h"
-
-#include <array>
-#include <functional>
 
 namespace Zel3D {
 
 namespace {
 
-struct Direction
+QString idOf(AxisType type)
 {
-    const char* id;
-    const char* name;
-    std::array<AxisType, 4> edges;
-};
-
-/// The four edges of a direction look alike: which of them shows its axis changes as the view turns.
-constexpr std::array<Direction, 3> directions{{
-    {"axes/x",
-     QT_TRANSLATE_NOOP("Zel3D::AxesPage", "X axis"),
-     {XFrontBottom, XFrontTop, XBackTop, XBackBottom}},
-    {"axes/y",
-     QT_TRANSLATE_NOOP("Zel3D::AxesPage", "Y axis"),
-     {YLeftBottom, YLeftTop, YRightTop, YRightBottom}},
-    {"axes/z",
-     QT_TRANSLATE_NOOP("Zel3D::AxesPage", "Z axis"),
-     {ZBackLeft, ZFrontLeft, ZBackRight, ZFrontRight}},
-}};
+    return QString("axes/axis%1").arg(int(type));
+}
 
 QVector<Field> edgeFields(BasePlot& plot)
 {
@@ -40,30 +25,90 @@ QVector<Field> edgeFields(BasePlot& plot)
                 .heardFrom(plot, &BasePlot::automaticEdgesChanged)};
 }
 
+/// Which axes are seen is the plot's to choose while it chooses the best edges.
+Field shownField(BasePlot& plot, AxisType type)
+{
+    CoordinateSystem& system = plot.getCoordinateSystem();
+    return Field::toggle(
+               idOf(type) + "/shown", AxesPage::tr("Axis visible"),
+               AxesPage::tr("Whether the axis is shown; the plot chooses while it shows the axes on "
+                            "their best edges."))
+        .when([&plot] { return !plot.isAutomaticEdges(); })
+        .bind([&plot, &system, type] { return plot.isAutomaticEdges() || system.isAxisVisible(type); },
+              [&system, type](bool on) {
+                  if (system.isAxisVisible(type) == on)
+                      return false;
+                  system.setAxesVisible(type, on);
+                  return true;
+              });
+}
+
+QVector<Field> nameFields(const QString& id, Axis& axis)
+{
+    Axis::Settings& record = axis.getSettings();
+    QVector<Field> fields = RecordFields::text(id + "/name", axis.getLabel());
+    fields += RecordFields::place(id + "/name", axis.getLabel());
+    fields.append(Field::number(id + "/name/shift", AxesPage::tr("Distance"),
+                                AxesPage::tr("Moves the name away from the axis, in units of the data."))
+                      .within(-1e9, 1e9, 0.1, 4)
+                      .bind([&record] { return record.getLabelShift(); },
+                            [&record](double units) { return record.setLabelShift(units); }));
+    return fields;
+}
+
+QVector<FieldGroup> axisGroups(BasePlot& plot, AxisType type)
+{
+    Axis& axis = plot.getCoordinateSystem().getAxis(type);
+    Axis::Settings& record = axis.getSettings();
+    const QString id = idOf(type);
+    const QString name = axisName(type);
+    QVector<Field> line{shownField(plot, type)};
+    for (Field field : RecordFields::line(id + "/line", record.getLine())) {
+        if (field.id.endsWith("/visible"))
+            field.label = AxesPage::tr("Line visible");
+        line.append(field);
+    }
+    return {
+        {AxesPage::tr("Line"), line, name},
+        {AxesPage::tr("Name"), nameFields(id, axis), name},
+        {AxesPage::tr("Ticks"), RecordFields::tics(id + "/tics", record.getTics()), name},
+        {AxesPage::tr("Numbers"), RecordFields::numbers(id + "/numbers", record.getNumbers()), name},
+        {AxesPage::tr("Arrow"), RecordFields::arrow(id + "/arrow", axis.getArrow()), name},
+    };
+}
+
+/// The same fields of the other axes of the direction.
+void addAlike(QVector<FieldGroup>& groups, AxisType type)
+{
+    const QString own = idOf(type) + '/';
+    for (FieldGroup& group : groups) {
+        for (Field& field : group.fields) {
+            QStringList others;
+            for (AxisType other : axesOf(baseAxisType(type))) {
+                if (other != type)
+                    others.append(idOf(other) + '/' + field.id.mid(own.size()));
+            }
+            field.alongWith(others);
+        }
+    }
+}
+
 } // namespace
 
 QVector<FieldGroup> AxesPage::describe(BasePlot& plot) const
 {
     QVector<FieldGroup> all{{tr("Edges"), edgeFields(plot), {}}};
-    for (const Direction& direction : directions) {
-        const QString id = direction.id;
-        const auto add = [&](const QString& title, const std::function<QVector<Field>(Axis&)>& describeOne) {
-            QVector<QVector<Field>> edges;
-            for (AxisType edge : direction.edges)
-                edges.append(describeOne(plot.getCoordinateSystem().getAxis(edge)));
-            all.append({title, RecordFields::together(edges), tr(direction.name)});
-        };
-        add(tr("Name"), [&id](Axis& axis) { return RecordFields::text(id + "/name", axis.getLabel()); });
-        add(tr("Line"),
-            [&id](Axis& axis) { return RecordFields::line(id + "/line", axis.getSettings().getLine()); });
-        add(tr("Ticks"),
-            [&id](Axis& axis) { return RecordFields::tics(id + "/tics", axis.getSettings().getTics()); });
-        add(tr("Numbers"), [&id](Axis& axis) {
-            return RecordFields::numbers(id + "/numbers", axis.getSettings().getNumbers());
-        });
-        add(tr("Arrow"), [&id](Axis& axis) { return RecordFields::arrow(id + "/arrow", axis.getArrow()); });
+    for (AxisType type : listedAxes()) {
+        QVector<FieldGroup> groups = axisGroups(plot, type);
+        addAlike(groups, type);
+        all += groups;
     }
     return all;
+}
+
+AbstractSettingsGroupBox* AxesPage::makeTabs(const QVector<FieldGroup>& groups, FieldBinder& binder)
+{
+    return new AxesGroupBox(groups, binder, this);
 }
 
 } // namespace Zel3D

@@ -4,12 +4,15 @@
 
 namespace Zel3D {
 
-/// Settings of the names, lines, ticks, numbers and arrows of the axes.
+/// Settings of the twelve axes.
 class VORANPLOT_EXPORT AxesPage : public AbstractSettingsPage
 {
     Q_OBJECT
 public:
     QVector<FieldGroup> describe(BasePlot& plot) const override;
+
+protected:
+    AbstractSettingsGroupBox* makeTabs(const QVector<FieldGroup>& groups, FieldBinder& binder) override;
 };
 
 } // namespace Zel3D

@@ -61,6 +61,15 @@ QVector<Field> viewFields(BasePlot& plot)
                       CommonPage::tr("Shows the values of what is under the mouse."))
             .bind([&plot] { return plot.isShowToolTips(); },
                   [&plot](bool on) { return plot.setShowToolTips(on); }),
+        Field::toggle("common/selecting", CommonPage::tr("Picking"),
+                      CommonPage::tr("Finds the point of the data under the mouse."))
+            .bind([&plot] { return plot.isSelecting(); }, [&plot](bool on) { return plot.setSelecting(on); })
+            .heardFrom(plot, &BasePlot::selectingChanged),
+        Field::toggle("common/pickHighlight", CommonPage::tr("Mark picked point"),
+                      CommonPage::tr("Marks the point that was found in the scene."))
+            .bind([&plot] { return plot.isPickHighlight(); },
+                  [&plot](bool on) { return plot.setPickHighlight(on); })
+            .heardFrom(plot, &BasePlot::pickHighlightChanged),
     };
 }
 

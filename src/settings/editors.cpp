@@ -1,14 +1,13 @@
 #include "settings/editors.h"
 
+#include "gradients/colorbutton.h"
 #include "settings/field.h"
 
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QComboBox>
-#include <QEvent>
 #include <QFontComboBox>
 #include <QLineEdit>
-#include <QPainter>
 #include <QSignalBlocker>
 #include <QSpinBox>
 #include <QToolButton>
@@ -74,63 +73,27 @@ QWidget* TextEditor::focusTarget()
     return line;
 }
 
-ColorEditor::ColorEditor(QWidget* parent) : ValueEditor(parent), button(new QToolButton(this))
+ColorEditor::ColorEditor(QWidget* parent) : ValueEditor(parent), button(new ColorButton(this))
 {
-    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     button->setFocusPolicy(Qt::StrongFocus);
-    connect(button, &QToolButton::clicked, this, &ColorEditor::choose);
+    connect(button, &ColorButton::clicked, this, [this] { gesture = nextGesture(); });
+    connect(button, &ColorButton::colorChanged, this, [this](const QColor& color) {
+        // A dropped colour is a step of its own.
+        const bool choosing = button->findChild<QColorDialog*>();
+        emit edited(color, choosing ? gesture : 0);
+    });
     arrange({button});
-    paintSwatch();
 }
 
 void ColorEditor::show(const QVariant& value)
 {
-    const QColor shown = value.value<QColor>();
-    if (shown == color)
-        return;
-    color = shown;
-    paintSwatch();
+    const QSignalBlocker quiet(button);
+    button->setColor(value.value<QColor>());
 }
 
 QWidget* ColorEditor::focusTarget()
 {
     return button;
-}
-
-void ColorEditor::changeEvent(QEvent* event)
-{
-    ValueEditor::changeEvent(event);
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::PaletteChange)
-        paintSwatch();
-}
-
-void ColorEditor::choose()
-{
-    const QColor chosen = QColorDialog::getColor(color, this, QString(), QColorDialog::ShowAlphaChannel);
-    if (chosen.isValid() && chosen != color)
-        emit edited(chosen, 0);
-}
-
-void ColorEditor::paintSwatch()
-{
-    const int height = fontMetrics().height();
-    const QSize size(3 * height, height);
-    QPixmap swatch(size * devicePixelRatioF());
-    swatch.setDevicePixelRatio(devicePixelRatioF());
-    swatch.fill(Qt::white);
-    QPainter painter(&swatch);
-    const QRect area(QPoint(0, 0), size);
-    // A transparent colour lies over squares.
-    painter.fillRect(area, QBrush(Qt::lightGray, Qt::Dense4Pattern));
-    painter.fillRect(area, color);
-    painter.setPen(palette().color(QPalette::Mid));
-    painter.drawRect(area.adjusted(0, 0, -1, -1));
-    painter.end();
-    button->setIconSize(size);
-    button->setIcon(QIcon(swatch));
-    const bool opaque = color.alpha() == 255;
-    button->setText(color.isValid() ? color.name(opaque ? QColor::HexRgb : QColor::HexArgb).toUpper()
-                                    : tr("None"));
 }
 
 FontEditor::FontEditor(QWidget* parent)

@@ -2,7 +2,6 @@
 
 #include "settings/valueeditor.h"
 
-#include <QColor>
 #include <QFont>
 
 class QCheckBox;
@@ -15,6 +14,8 @@ class QToolButton;
 // The editors of the simple kinds of values, a few lines each.
 
 namespace Zel3D {
+
+class ColorButton;
 
 class SwitchEditor : public ValueEditor
 {
@@ -55,7 +56,8 @@ private:
     int gesture = 0;
 };
 
-/// A button that shows a colour and opens the colour dialog, alpha included.
+/// A button that shows a colour and opens the colour dialog, alpha included. What is chosen in one visit of
+/// the dialog is one gesture.
 class ColorEditor : public ValueEditor
 {
     Q_OBJECT
@@ -64,15 +66,9 @@ public:
     void show(const QVariant& value) override;
     QWidget* focusTarget() override;
 
-protected:
-    void changeEvent(QEvent* event) override;
-
 private:
-    void choose();
-    void paintSwatch();
-
-    QToolButton* button;
-    QColor color;
+    ColorButton* button;
+    int gesture = 0;
 };
 
 /// Family, size, bold and italic of a font.

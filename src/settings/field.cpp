@@ -65,6 +65,11 @@ Field Field::text(const QString& key, const QString& name, const QString& about)
     return make(Text, key, name, about);
 }
 
+Field Field::custom(const QString& key, const QString& name, const QString& about)
+{
+    return make(Custom, key, name, about);
+}
+
 Field& Field::within(double least, double most, double stepSize, int digits)
 {
     minimum = least;
@@ -108,6 +113,18 @@ Field& Field::when(const std::function<bool()>& condition)
 Field& Field::inRow(const QString& name)
 {
     row = name;
+    return *this;
+}
+
+Field& Field::alongWith(const QStringList& others)
+{
+    alike = others;
+    return *this;
+}
+
+Field& Field::withoutDefault()
+{
+    resets = false;
     return *this;
 }
 

@@ -26,7 +26,7 @@ class ValueEditor;
 /// \endcode
 struct VORANPLOT_EXPORT Field
 {
-    enum Kind { Switch, Integer, Number, Color, Font, Choice, Text };
+    enum Kind { Switch, Integer, Number, Color, Font, Choice, Text, Custom };
 
     /// A value that a choice offers and the text shown for it.
     struct Offer
@@ -48,6 +48,8 @@ struct VORANPLOT_EXPORT Field
     static Field font(const QString& key, const QString& name, const QString& about);
     static Field choice(const QString& key, const QString& name, const QString& about);
     static Field text(const QString& key, const QString& name, const QString& about);
+    /// A value that only editedBy() can edit. It consists of the types that QVariant compares and stores.
+    static Field custom(const QString& key, const QString& name, const QString& about);
 
     /// The values that can be typed, both ends included.
     Field& within(double least, double most, double stepSize, int digits = 0);
@@ -62,6 +64,11 @@ struct VORANPLOT_EXPORT Field
     Field& when(const std::function<bool()>& condition);
     /// Fields that follow each other in one row share the row's name, such as "Rotation" for "X", "Y", "Z".
     Field& inRow(const QString& name);
+    /// Fields of the same kind that a person can choose to edit together with this one; see
+    /// FieldBinder::setAlike().
+    Field& alongWith(const QStringList& others);
+    /// A plot as constructed holds nothing useful: a reset leads to what was there at the opening.
+    Field& withoutDefault();
     /// An editor of its own in place of that of the kind. The editor's parent takes ownership.
     Field& editedBy(const std::function<ValueEditor*(const Field&)>& factory);
 
@@ -88,6 +95,8 @@ struct VORANPLOT_EXPORT Field
     int decimals = 0;
     QString unit;
     bool slider = false;
+    bool resets = true;
+    QStringList alike;
     QVector<Offer> offers;
     std::function<bool()> enabled;
     std::function<ValueEditor*(const Field&)> editor;

@@ -80,10 +80,18 @@ bool FieldBinder::isEnabled(const QString& id) const
     return plot && (!field.enabled || field.enabled());
 }
 
+QStringList FieldBinder::withAlike(const QString& id) const
+{
+    QStringList all{id};
+    if (alike)
+        all += getField(id).alike;
+    return all;
+}
+
 void FieldBinder::edit(const QString& id, const QVariant& value, int gesture)
 {
     if (plot && entries.contains(id))
-        undoStack.push(new FieldEdit(*this, id, value, gesture));
+        undoStack.push(new FieldEdit(*this, withAlike(id), value, gesture));
     // Also what was refused: editors go back to what holds.
     emit changed();
 }
@@ -91,15 +99,17 @@ void FieldBinder::edit(const QString& id, const QVariant& value, int gesture)
 void FieldBinder::reset(const QStringList& which)
 {
     QStringList differing;
-    for (const QString& id : which) {
-        if (!isStandard(id))
-            differing.append(id);
+    for (const QString& field : which) {
+        for (const QString& id : withAlike(field)) {
+            if (!isStandard(id) && !differing.contains(id))
+                differing.append(id);
+        }
     }
     if (!plot || differing.isEmpty())
         return;
     undoStack.beginMacro(tr("Restore defaults"));
     for (const QString& id : qAsConst(differing))
-        undoStack.push(new FieldEdit(*this, id, standard(id), 0));
+        undoStack.push(new FieldEdit(*this, {id}, standard(id), 0));
     undoStack.endMacro();
     emit changed();
 }

@@ -36,6 +36,9 @@ public:
 
     /// An edit of a person. Edits of one field with the same \a gesture, when it is not 0, are undone as one.
     void edit(const QString& id, const QVariant& value, int gesture = 0);
+    /// On: what a person edits or resets, the fields alike follow. On from the beginning.
+    void setAlike(bool on) { alike = on; }
+    bool isAlike() const { return alike; }
     /// Back to the defaults, as one step that can be undone.
     void reset(const QStringList& which);
     /// Writes without an undo step and repaints. Returns whether the value changed.
@@ -56,6 +59,9 @@ signals:
     void changed();
 
 private:
+    /// The field and, where that is chosen, those alike.
+    QStringList withAlike(const QString& id) const;
+
     struct Entry
     {
         Field field;
@@ -67,6 +73,7 @@ private:
     QHash<QString, Entry> entries;
     QStringList ids;
     QUndoStack undoStack;
+    bool alike = true;
 };
 
 /// Whether two values of a field are the same; numbers are compared as they are shown at most precisely.

@@ -2,38 +2,52 @@
 
 #include "settings/fieldbinder.h"
 
+#include <algorithm>
+
 namespace Zel3D {
 
-FieldEdit::FieldEdit(FieldBinder& fields, const QString& field, const QVariant& newValue, int gestureNumber)
-    : QUndoCommand(fields.getField(field).accessibleName()),
-      binder(fields),
-      fieldId(field),
-      before(fields.value(field)),
-      after(newValue),
-      gesture(gestureNumber)
+FieldEdit::FieldEdit(FieldBinder& fields, const QStringList& which, const QVariant& newValue,
+                     int gestureNumber)
+    : QUndoCommand(fields.getField(which.first()).accessibleName()), binder(fields), gesture(gestureNumber)
 {
+    for (const QString& id : which)
+        changes.append({id, fields.value(id), newValue});
 }
 
 void FieldEdit::undo()
 {
-    binder.write(fieldId, before);
+    for (const Change& change : qAsConst(changes))
+        binder.write(change.id, change.before);
 }
 
 void FieldEdit::redo()
 {
-    binder.write(fieldId, after);
-    after = binder.value(fieldId);
-    setObsolete(sameValue(before, after));
+    for (Change& change : changes) {
+        binder.write(change.id, change.after);
+        change.after = binder.value(change.id);
+    }
+    dropWhenEmpty();
 }
 
 bool FieldEdit::mergeWith(const QUndoCommand* next)
 {
     const auto* other = static_cast<const FieldEdit*>(next);
-    if (other->fieldId != fieldId || other->gesture != gesture)
+    const bool same =
+        other->gesture == gesture &&
+        std::equal(changes.cbegin(), changes.cend(), other->changes.cbegin(), other->changes.cend(),
+                   [](const Change& a, const Change& b) { return a.id == b.id; });
+    if (!same)
         return false;
-    after = other->after;
-    setObsolete(sameValue(before, after));
+    for (int i = 0; i < changes.size(); ++i)
+        changes[i].after = other->changes.at(i).after;
+    dropWhenEmpty();
     return true;
+}
+
+void FieldEdit::dropWhenEmpty()
+{
+    setObsolete(std::all_of(changes.cbegin(), changes.cend(),
+                            [](const Change& change) { return sameValue(change.before, change.after); }));
 }
 
 } // namespace Zel3D

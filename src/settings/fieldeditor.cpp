@@ -4,9 +4,8 @@
 #include "settings/valueeditor.h"
 
 #include <QAbstractButton>
-#include <QKeyEvent>
+#include <QEvent>
 #include <QLabel>
-#include <QMouseEvent>
 
 namespace Zel3D {
 
@@ -24,9 +23,9 @@ FieldEditor::FieldEditor(const QString& field, FieldBinder& fields, QWidget* par
     describe(*editor);
     describe(*editor->focusTarget());
     label->installEventFilter(this);
+    editor->guard(*editor);
     const QList<QWidget*> parts = editor->findChildren<QWidget*>();
     for (QWidget* part : parts) {
-        part->installEventFilter(this);
         if (part->toolTip().isEmpty())
             describe(*part);
     }
@@ -60,33 +59,9 @@ void FieldEditor::refresh()
 
 bool FieldEditor::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == label) {
-        auto* button = qobject_cast<QAbstractButton*>(editor->focusTarget());
-        if (event->type() == QEvent::MouseButtonRelease && button && button->isCheckable())
-            button->click();
-        return false;
-    }
-    auto* widget = qobject_cast<QWidget*>(watched);
-    switch (event->type()) {
-    case QEvent::Wheel:
-        // Scrolling the page must not change the values under the mouse.
-        if (widget && !widget->hasFocus()) {
-            event->ignore();
-            return true;
-        }
-        break;
-    case QEvent::ShortcutOverride: {
-        // Lines and boxes would keep undo for their texts.
-        const auto* key = static_cast<QKeyEvent*>(event);
-        if (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo)) {
-            event->ignore();
-            return true;
-        }
-        break;
-    }
-    default:
-        break;
-    }
+    auto* button = qobject_cast<QAbstractButton*>(editor->focusTarget());
+    if (watched == label && event->type() == QEvent::MouseButtonRelease && button && button->isCheckable())
+        button->click();
     return QObject::eventFilter(watched, event);
 }
 

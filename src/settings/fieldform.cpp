@@ -69,12 +69,14 @@ void FieldForm::addRow(const QVector<Field>& fields)
     }
     if (!stretches)
         line->addStretch(1);
-    grid->addWidget(rowLabel, row, LabelColumn);
+    // The label of a list stands at its top.
+    const bool tall = editors.last()->getEditor()->sizeHint().height() > 4 * fontMetrics().height();
+    grid->addWidget(rowLabel, row, LabelColumn, tall ? Qt::AlignTop : Qt::Alignment());
     grid->addLayout(line, row, EditorColumn);
     rowLabels.append(rowLabel);
     const Field& first = fields.first();
     rows.append({ids, makeReset(first.row.isEmpty() ? first.label : first.row, ids)});
-    grid->addWidget(rows.last().reset, row, ResetColumn);
+    grid->addWidget(rows.last().reset, row, ResetColumn, tall ? Qt::AlignTop : Qt::Alignment());
 }
 
 QToolButton* FieldForm::makeReset(const QString& name, const QStringList& ids)

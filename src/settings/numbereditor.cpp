@@ -18,13 +18,6 @@ constexpr int gestureMilliseconds = 700;
 /// Room for common numbers; larger ones scroll in the box.
 constexpr int widestDigits = 9;
 
-/// Gestures of different editors never have the same number.
-int nextGesture()
-{
-    static int last = 0;
-    return ++last;
-}
-
 } // namespace
 
 NumberBox::NumberBox(QWidget* parent) : QDoubleSpinBox(parent)

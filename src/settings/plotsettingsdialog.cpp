@@ -1,6 +1,7 @@
 #include "settings/plotsettingsdialog.h"
 
 #include "plots/baseplot.h"
+#include "settings/additionspage.h"
 #include "settings/axespage.h"
 #include "settings/commonpage.h"
 #include "settings/gridpage.h"
@@ -49,6 +50,7 @@ QVector<SettingsPageEntry> PlotSettingsDialog::libraryPages()
         entry<CommonPage>("common", tr("Common")),
         entry<TitlePage>("title", tr("Title")),
         entry<GridPage>("grid", tr("Grid")),
+        entry<AdditionsPage>("additions", tr("Additions")),
         entry<AxesPage>("axes", tr("Axes")),
         entry<ScalesPage>("scales", tr("Scales")),
         entry<LegendPage>("legend", tr("Legend")),

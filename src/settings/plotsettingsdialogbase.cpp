@@ -18,6 +18,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QPainter>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -40,6 +41,25 @@ constexpr int mostResults = 12;
 // Heights of the dialog, in lines of text.
 constexpr int leastLines = 12;
 constexpr int usualLines = 40;
+
+/// An icon that the colour of a selection does not swallow: there it has the colour of the text.
+QIcon pageIcon(const QString& path, const QSize& size, const QPalette& colors)
+{
+    if (!QFile::exists(path))
+        return {};
+    QIcon icon;
+    const QIcon drawn(path);
+    for (int ratio : {1, 2}) {
+        QPixmap pixmap = drawn.pixmap(size * ratio);
+        icon.addPixmap(pixmap);
+        QPainter painter(&pixmap);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        painter.fillRect(pixmap.rect(), colors.color(QPalette::HighlightedText));
+        painter.end();
+        icon.addPixmap(pixmap, QIcon::Selected);
+    }
+    return icon;
+}
 
 } // namespace
 
@@ -72,6 +92,7 @@ PlotSettingsDialogBase::PlotSettingsDialogBase(const QVector<SettingsPageEntry>&
     });
     connect(&binder, &FieldBinder::changed, this, &PlotSettingsDialogBase::updateButtons);
     auto* clock = new QTimer(this);
+    clock->setObjectName("refresh");
     connect(clock, &QTimer::timeout, this, [this] {
         if (isVisible() && getCurrentRow() >= 0)
             pages.at(getCurrentRow())->refresh();
@@ -111,6 +132,7 @@ QWidget* PlotSettingsDialogBase::makeSide()
     results->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
     results->setMaxVisibleItems(mostResults);
     results->setWidget(searchLine);
+    list->setObjectName("pages");
     list->setAccessibleName(tr("Pages"));
     connect(searchLine, &QLineEdit::textEdited, this, &PlotSettingsDialogBase::search);
     connect(results, QOverload<const QString&>::of(&QCompleter::activated), this,
@@ -195,8 +217,8 @@ void PlotSettingsDialogBase::buildPages(const QVector<SettingsPageEntry>& entrie
         area->setFrameShape(QFrame::NoFrame);
         stack->addWidget(area);
         areas.append(area);
-        list->addItem(
-            new QListWidgetItem(QFile::exists(entry.icon) ? QIcon(entry.icon) : QIcon(), entry.title));
+        list->addItem(entry.title);
+        list->item(list->count() - 1)->setData(Qt::UserRole, entry.icon);
         pages.append(page);
         addSearchEntries(entry.title, pages.size() - 1);
     }
@@ -222,6 +244,8 @@ void PlotSettingsDialogBase::fitSide()
     int titles = 0;
     for (int i = 0; i < list->count(); ++i) {
         list->item(i)->setSizeHint({0, line * 2});
+        list->item(i)->setIcon(
+            pageIcon(list->item(i)->data(Qt::UserRole).toString(), list->iconSize(), palette()));
         titles = std::max(titles, list->fontMetrics().horizontalAdvance(list->item(i)->text()));
     }
     list->parentWidget()->setFixedWidth(titles + 3 * line + list->verticalScrollBar()->sizeHint().width());
@@ -229,7 +253,7 @@ void PlotSettingsDialogBase::fitSide()
     int width = 0;
     for (const AbstractSettingsPage* page : qAsConst(pages))
         width = std::max(width, page->minimumSizeHint().width());
-    stack->setMinimumWidth(width + areas.value(0, nullptr)->verticalScrollBar()->sizeHint().width());
+    stack->setMinimumWidth(width + style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this));
 }
 
 QSize PlotSettingsDialogBase::sizeHint() const
@@ -345,6 +369,13 @@ void PlotSettingsDialogBase::keyPressEvent(QKeyEvent* event)
     if (enter && !qobject_cast<QPushButton*>(focusWidget()))
         return;
     PlotBaseDialog::keyPressEvent(event);
+}
+
+void PlotSettingsDialogBase::changeEvent(QEvent* event)
+{
+    PlotBaseDialog::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        fitSide();
 }
 
 void PlotSettingsDialogBase::showEvent(QShowEvent* event)

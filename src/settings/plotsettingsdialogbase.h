@@ -52,6 +52,7 @@ protected:
     void plotDeleted() override;
     void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void buildPages(const QVector<SettingsPageEntry>& entries);

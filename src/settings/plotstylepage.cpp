@@ -3,6 +3,8 @@
 #include "plots/baseplot.h"
 #include "plots/baseplotsettings.h"
 #include "plots/styleaction.h"
+#include "settings/gradienteditor.h"
+#include "settings/gradientvalue.h"
 
 namespace Zel3D {
 
@@ -23,20 +25,20 @@ QVector<Field> styleFields(BasePlot& plot)
                                 [&plot](int style) { return plot.setPlotStyle(style); })
                           .heardFrom(plot, &BasePlot::plotStyleChanged));
     }
-    const QMap<QString, QGradient> gradients = plot.getSettings().getGradients().getGradients();
-    QVector<Field::Offer> names;
-    for (const QString& name : gradients.keys())
-        names.append({name, name});
-    if (!names.isEmpty()) {
-        fields.append(Field::choice("style/gradient", PlotStylePage::tr("Gradient"),
-                                    PlotStylePage::tr("The colors of the values."))
-                          .offering(names)
-                          .bind([&plot] { return plot.getSettings().getGradients().getCurrent(); },
-                                [&plot, gradients](const QString& name) {
-                                    return gradients.contains(name) &&
-                                           plot.setGradient(name, gradients.value(name));
-                                }));
-    }
+    const BasePlot::GradientsSettings& gradients = plot.getSettings().getGradients();
+    fields.append(Field::custom("style/gradient", PlotStylePage::tr("Gradient"),
+                                PlotStylePage::tr("The colors of the values."))
+                      .editedBy([](const Field&) { return new GradientEditor; })
+                      .withoutDefault()
+                      .bind(
+                          [&gradients] {
+                              return GradientValue{gradients.getCurrent(), gradients.getGradients()}.toMap();
+                          },
+                          [&plot](const QVariantMap& map) {
+                              const GradientValue value = GradientValue::from(map);
+                              return plot.setGradients(value.current, value.gradients);
+                          })
+                      .heardFrom(plot, &BasePlot::gradientsChanged));
     return fields;
 }
 

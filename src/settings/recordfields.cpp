@@ -11,24 +11,15 @@ struct Words
     Q_DECLARE_TR_FUNCTIONS(RecordFields)
 };
 
-} // namespace
-
-QVector<Field> RecordFields::together(const QVector<QVector<Field>>& alike)
+/// In the order of their values.
+QStringList alignments()
 {
-    QVector<Field> fields = alike.first();
-    for (int i = 0; i < fields.size(); ++i) {
-        QVector<Field::Writer> writers;
-        for (const QVector<Field>& record : alike)
-            writers.append(record.at(i).write);
-        fields[i].write = [writers](const QVariant& value) {
-            bool changed = false;
-            for (const Field::Writer& write : writers)
-                changed = write(value) || changed;
-            return changed;
-        };
-    }
-    return fields;
+    return {Words::tr("Top left"),    Words::tr("Top center"),    Words::tr("Top right"),
+            Words::tr("Center left"), Words::tr("Automatic"),     Words::tr("Center right"),
+            Words::tr("Bottom left"), Words::tr("Bottom center"), Words::tr("Bottom right")};
 }
+
+} // namespace
 
 QVector<Field> RecordFields::text(const QString& id, Label& label)
 {
@@ -49,6 +40,30 @@ QVector<Field> RecordFields::text(const QString& id, Label& label)
     };
 }
 
+QVector<Field> RecordFields::place(const QString& id, Label& label)
+{
+    Label::Settings& record = label.getSettings();
+    return {
+        Field::integer(id + "/angle", Words::tr("Angle"), Words::tr("The turn of the text, clockwise."))
+            .within(-360, 360, 5)
+            .in(QStringLiteral("°"))
+            .bind([&record] { return record.getAngle(); },
+                  [&record](int degrees) { return record.setAngle(degrees); }),
+        Field::choice(id + "/alignment", Words::tr("Alignment"),
+                      Words::tr("The corner or edge of the text that lies at its place."))
+            .offering(alignments())
+            .bind([&record] { return record.getAlignment(); },
+                  [&record](Alignment alignment) { return record.setAlignment(alignment); }),
+        Field::integer(id + "/adjust", Words::tr("Offset"),
+                       Words::tr("How far the text stands off its place, to the side of its alignment."))
+            .within(-500, 500, 1)
+            .in(Words::tr("px"))
+            .when([&record] { return record.getAlignment() != Center; })
+            .bind([&record] { return record.getAdjust(); },
+                  [&record](int pixels) { return record.setAdjust(pixels); }),
+    };
+}
+
 QVector<Field> RecordFields::numbers(const QString& id, Axis::NumbersSettings& record)
 {
     return {
@@ -61,6 +76,11 @@ QVector<Field> RecordFields::numbers(const QString& id, Axis::NumbersSettings& r
         Field::color(id + "/color", Words::tr("Color"), Words::tr("The color of the numbers."))
             .bind([&record] { return record.getColor(); },
                   [&record](const QColor& color) { return record.setColor(color); }),
+        Field::choice(id + "/alignment", Words::tr("Alignment"),
+                      Words::tr("The corner or edge of a number that lies at its tick."))
+            .offering(alignments())
+            .bind([&record] { return record.getAlignment(); },
+                  [&record](Alignment alignment) { return record.setAlignment(alignment); }),
     };
 }
 
@@ -108,6 +128,21 @@ QVector<Field> RecordFields::arrow(const QString& id, Arrow& drawn)
         Field::color(id + "/color", Words::tr("Color"), Words::tr("The color of the arrow."))
             .bind([&record] { return record.getColor(); },
                   [&record](const QColor& color) { return record.setColor(color); }),
+        Field::choice(id + "/style", Words::tr("Style"), Words::tr("How the arrow is drawn."))
+            .offering(QStringList{Words::tr("Filled"), Words::tr("Outline"), Words::tr("Points"),
+                                  Words::tr("Lines")})
+            .bind([&record] { return record.getStyle(); },
+                  [&record](int style) { return record.setStyle(style); }),
+        Field::integer(id + "/quality", Words::tr("Quality"), Words::tr("The sides of the arrow."))
+            .within(3, 50, 1)
+            .bind([&record] { return int(record.getQuality()); },
+                  [&record](int sides) { return record.setQuality(unsigned(sides)); }),
+        Field::number(
+            id + "/distance", Words::tr("Distance"),
+            Words::tr("How far the arrow stands beyond the end of its axis, in lengths of the axis."))
+            .within(0.001, 10.0, 0.01, 3)
+            .bind([&record] { return record.getLineLength(); },
+                  [&record](double lengths) { return record.setLineLength(lengths); }),
     };
 }
 

@@ -11,10 +11,10 @@ class Label;
 /// "title/text"; the record must outlive the fields.
 namespace RecordFields {
 
-/// Fields of several records of one kind as those of one: they show the first record and write to all.
-QVector<Field> together(const QVector<QVector<Field>>& alike);
 /// Whether a text is shown, its words, font and colour.
 QVector<Field> text(const QString& id, Label& label);
+/// The angle of a text and how it lies at its place.
+QVector<Field> place(const QString& id, Label& label);
 /// The numbers at the ticks.
 QVector<Field> numbers(const QString& id, Axis::NumbersSettings& record);
 /// The axis line.

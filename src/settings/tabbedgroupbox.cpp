@@ -2,30 +2,35 @@
 
 #include "settings/field.h"
 #include "settings/fieldform.h"
-#include "settings/formgroupbox.h"
+#include "settings/groupcolumn.h"
 
 #include <QTabWidget>
 #include <QVBoxLayout>
 
 namespace Zel3D {
 
+QVector<QVector<FieldGroup>> groupsByTab(const QVector<FieldGroup>& groups)
+{
+    QVector<QVector<FieldGroup>> all;
+    for (const FieldGroup& group : groups) {
+        if (all.isEmpty() || all.constLast().constLast().tab != group.tab)
+            all.append(QVector<FieldGroup>());
+        all.last().append(group);
+    }
+    return all;
+}
+
 TabbedGroupBox::TabbedGroupBox(const QVector<FieldGroup>& groups, FieldBinder& binder, QWidget* parent)
     : AbstractSettingsGroupBox(QString(), parent), tabs(new QTabWidget(this))
 {
-    QVBoxLayout* column = nullptr;
-    for (const FieldGroup& group : groups) {
-        if (!column || tabs->tabText(tabs->count() - 1) != group.tab) {
-            auto* content = new QWidget;
-            column = new QVBoxLayout(content);
-            tabs->addTab(content, group.tab);
-        }
-        auto* box = new FormGroupBox(group, binder);
-        column->addWidget(box);
-        forms += box->getForms();
+    for (const QVector<FieldGroup>& together : groupsByTab(groups)) {
+        auto* column = new GroupColumn(together, binder);
+        connect(column, &GroupColumn::built, this, &AbstractSettingsGroupBox::formsAdded);
+        columns.append(column);
+        tabs->addTab(column, together.first().tab);
     }
-    // The shorter tabs keep their boxes at the top.
-    for (int i = 0; i < tabs->count(); ++i)
-        static_cast<QVBoxLayout*>(tabs->widget(i)->layout())->addStretch(1);
+    // The others need as much room.
+    columns.first()->build();
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(tabs);
@@ -34,6 +39,22 @@ TabbedGroupBox::TabbedGroupBox(const QVector<FieldGroup>& groups, FieldBinder& b
 void TabbedGroupBox::paintEvent(QPaintEvent* /*event*/)
 {
     // The tabs have a frame of their own.
+}
+
+QVector<FieldForm*> TabbedGroupBox::getForms() const
+{
+    QVector<FieldForm*> forms;
+    for (const GroupColumn* column : columns)
+        forms += column->getForms();
+    return forms;
+}
+
+void TabbedGroupBox::prepare(const QString& id)
+{
+    for (GroupColumn* column : qAsConst(columns)) {
+        if (column->contains(id))
+            column->build();
+    }
 }
 
 void TabbedGroupBox::bringToFront(FieldForm* form)

@@ -32,19 +32,10 @@ Field place(Title& title, const QString& id, const QString& name, bool across)
 QVector<FieldGroup> TitlePage::describe(BasePlot& plot) const
 {
     Title& title = plot.getTitle();
-    Label::Settings& record = title.getSettings();
-    return {
-        {tr("Text"), RecordFields::text("title", title), {}},
-        {tr("Position"),
-         {place(title, "title/positionX", tr("Across"), true),
-          place(title, "title/positionY", tr("Up"), false),
-          Field::integer("title/angle", tr("Angle"), tr("The turn of the text, clockwise."))
-              .within(-360, 360, 5)
-              .in(QStringLiteral("°"))
-              .bind([&record] { return record.getAngle(); },
-                    [&record](int degrees) { return record.setAngle(degrees); })},
-         {}},
-    };
+    QVector<Field> position{place(title, "title/positionX", tr("Across"), true),
+                            place(title, "title/positionY", tr("Up"), false)};
+    position += RecordFields::place("title", title);
+    return {{tr("Text"), RecordFields::text("title", title), {}}, {tr("Position"), position, {}}};
 }
 
 } // namespace Zel3D

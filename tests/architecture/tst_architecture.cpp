@@ -36,6 +36,7 @@ const QMap<QString, QStringList> upwards = {
     {"core/testcelldata.cpp", {"plots/shplot.h"}},
     {"core/watersurface.cpp", {"plots/shplot.h"}},
     {"plots/shplot.cpp", {"settings/plotsettingsdialog.h"}},
+    {"plots/spectrum.cpp", {"settings/plotsettingsdialog.h"}},
 };
 
 QByteArray contents(const QString& path)

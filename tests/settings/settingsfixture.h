@@ -1,11 +1,20 @@
 #pragma once
 
+#include "core/gradientstops.h"
+#include "gradients/colorbutton.h"
+#include "gradients/gradientbutton.h"
+#include "gradients/gradientmanager.h"
 #include "harness/harness.h"
+#include "plots/addition.h"
+#include "plots/markers.h"
 #include "plots/plotfixture.h"
+#include "plots/spectrum.h"
 #include "plots/styleaction.h"
 #include "settings/abstractsettingspage.h"
 #include "settings/editors.h"
 #include "settings/fieldeditor.h"
+#include "settings/gradientvalue.h"
+#include "settings/markerseditor.h"
 #include "settings/numbereditor.h"
 #include "settings/plotsettingsdialog.h"
 
@@ -13,6 +22,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QToolButton>
@@ -20,6 +30,7 @@
 #include <QtTest>
 
 #include <cmath>
+#include <memory>
 
 namespace fixture {
 
@@ -35,6 +46,18 @@ public:
         setGradient("ramp", ramp());
         setPlotStyle(4);
         Heights(4, 4, plane).into(*this);
+    }
+};
+
+/// Spectra with styles to choose from.
+class SpectrumPlot : public Zel3D::Spectrum
+{
+public:
+    SpectrumPlot() : Spectrum("plot", fixture::organization, fixture::application)
+    {
+        setGradient("other", plain(Qt::red));
+        setGradient("ramp", ramp());
+        loadFromData({{1.0, {{1.0, 2.0}, {2.0, 3.0}}}, {2.0, {{1.0, 1.0}, {2.0, 5.0}}}}, Zel3D::XAxis);
     }
 };
 
@@ -82,8 +105,19 @@ inline QVariant otherValue(const Zel3D::Field& field, const QVariant& value)
     }
     case Field::Text:
         return value.toString() + "x";
+    case Field::Custom:
+        break;
     }
-    return {};
+    if (field.id == "additions/markers") {
+        const std::unique_ptr<Zel3D::Addition> sphere(Zel3D::makeMarker({{"kind", "sphere"}}));
+        return value.toList() << QVariant(Zel3D::describeMarker(*sphere));
+    }
+    Zel3D::GradientValue gradients = Zel3D::GradientValue::from(value.toMap());
+    gradients.current = gradients.current == "ramp" ? "other" : "ramp";
+    // The one that is not in use, so that only the map tells.
+    const bool isPlain = Zel3D::gradientStops(gradients.gradients.value("spare")).size() == 1;
+    gradients.gradients.insert("spare", isPlain ? ramp() : plain(Qt::green));
+    return gradients.toMap();
 }
 
 /// What an editor shows, as far as the kind of field tells.
@@ -97,7 +131,7 @@ inline QVariant shownValue(const Zel3D::Field& field, QWidget& editor)
     case Field::Number:
         return editor.findChild<Zel3D::NumberBox*>()->value();
     case Field::Color:
-        return QColor(editor.findChild<QToolButton*>()->text());
+        return editor.findChild<Zel3D::ColorButton*>()->getColor();
     case Field::Font: {
         QFont font(editor.findChild<QComboBox*>()->currentText());
         font.setPointSize(editor.findChild<QSpinBox*>()->value());
@@ -107,8 +141,12 @@ inline QVariant shownValue(const Zel3D::Field& field, QWidget& editor)
         return editor.findChild<QComboBox*>()->currentData();
     case Field::Text:
         return editor.findChild<QLineEdit*>()->text();
+    case Field::Custom:
+        break;
     }
-    return {};
+    if (field.id == "additions/markers")
+        return editor.findChild<QListWidget*>()->count();
+    return editor.findChild<Zel3D::GradientButton*>()->getCurrentName();
 }
 
 /// Whether an editor shows a value, to the precision of its box.
@@ -122,7 +160,24 @@ inline bool shows(const Zel3D::Field& field, QWidget& editor, const QVariant& va
         const QFont b = value.value<QFont>();
         return a.family() == b.family() && a.pointSize() == b.pointSize();
     }
+    if (field.id == "additions/markers")
+        return shown.toInt() == value.toList().size();
+    if (field.id == "style/gradient")
+        return shown == value.toMap().value("current");
     return shown == value;
+}
+
+/// Changes the store behind a gradient button as its dialogs do, then chooses.
+inline void editGradients(Zel3D::ValueEditor& editor, const Zel3D::GradientValue& wanted)
+{
+    auto* store = editor.findChild<GradientManager*>();
+    for (const QString& name : wanted.gradients.keys()) {
+        if (store->gradients().contains(name))
+            store->changeGradient(name, name, wanted.gradients.value(name));
+        else
+            store->addGradient(name, wanted.gradients.value(name));
+    }
+    editor.findChild<Zel3D::GradientButton*>()->setCurrentName(wanted.current);
 }
 
 /// Changes a value as a person does, with mouse or keyboard.
@@ -157,8 +212,14 @@ inline void editByHand(const Zel3D::Field& field, Zel3D::ValueEditor& editor, co
         QTest::keyClicks(target, "x");
         break;
     case Field::Color:
-        // The colour dialog is the toolkit's.
-        emit editor.edited(wanted, 0);
+        // As dropped on the button; the colour dialog is the toolkit's.
+        editor.findChild<Zel3D::ColorButton*>()->setColor(wanted.value<QColor>());
+        break;
+    case Field::Custom:
+        if (field.id == "additions/markers")
+            static_cast<Zel3D::MarkersEditor&>(editor).add("sphere");
+        else
+            editGradients(editor, Zel3D::GradientValue::from(wanted.toMap()));
         break;
     }
 }

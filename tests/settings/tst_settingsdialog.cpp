@@ -1,8 +1,17 @@
 // The settings dialog as a whole: what it keeps, where it opens, how it lives with its plot.
 
+#include "core/datacolor.h"
+#include "gradients/gradienteditdialog.h"
+#include "gradients/gradientmanager.h"
+#include "gradients/gradientstopsmodel.h"
+#include "plots/dotaddition.h"
+#include "plots/sphereaddition.h"
+#include "settings/axesgroupbox.h"
+#include "settings/boxpicker.h"
 #include "settings/settingssearch.h"
 #include "settingsfixture.h"
 
+#include <QColorDialog>
 #include <QDialogButtonBox>
 #include <QListWidget>
 #include <QPointer>
@@ -86,6 +95,13 @@ private slots:
     void searchFinds_data();
     void searchFinds();
     void searchGoesToTheSetting();
+    void onlyWhatMustBeIsRebuilt_data();
+    void onlyWhatMustBeIsRebuilt();
+    void axesOfADirectionAreEditedTogether();
+    void chosenAxisIsHighlighted();
+    void markersKeepTheHostsOwn();
+    void colorsOfOneVisitAreOneStep();
+    void editedGradientsReachThePlot();
 };
 
 void TestSettingsDialog::applyAndOkSave()
@@ -205,7 +221,7 @@ void TestSettingsDialog::pagesOfTheOptions()
     StyledPlot plot;
     const PlotSettingsDialog dialog(&options, organization, application, &plot);
     QStringList titles;
-    const auto* list = dialog.findChild<QListWidget*>();
+    const auto* list = dialog.findChild<QListWidget*>("pages");
     for (int i = 0; i < list->count(); ++i)
         titles.append(list->item(i)->text());
     QCOMPARE(titles.size(), PlotSettingsDialog::libraryPages().size());
@@ -345,6 +361,199 @@ void TestSettingsDialog::searchGoesToTheSetting()
     QTRY_VERIFY(editor->isVisible());
     QTRY_VERIFY(dialog->focusWidget() && editor->isAncestorOf(dialog->focusWidget()));
     QVERIFY(dialog->isVisible());
+}
+
+namespace {
+
+/// Counts how often the geometry is sent.
+class CountingPlot : public StyledPlot
+{
+public:
+    int builds = 0;
+
+protected:
+    void createData() override
+    {
+        ++builds;
+        StyledPlot::createData();
+    }
+};
+
+} // namespace
+
+void TestSettingsDialog::onlyWhatMustBeIsRebuilt_data()
+{
+    QTest::addColumn<QString>("id");
+    QTest::addColumn<int>("builds");
+    for (const char* id :
+         {"common/rotationX", "common/zoom", "title/positionX", "title/text", "axes/axis0/line/color",
+          "lighting/light0/phi", "legend/numbers/color", "grid/color", "scales/x/linear/major"})
+        QTest::newRow(id) << id << 0;
+    for (const char* id : {"style/meshWidth", "additions/dotSize", "common/resolution"})
+        QTest::newRow(id) << id << 1;
+}
+
+void TestSettingsDialog::onlyWhatMustBeIsRebuilt()
+{
+    QFETCH(QString, id);
+    QFETCH(int, builds);
+    CountingPlot plot;
+    QVERIFY(harness::show(plot, 200, 200));
+    const int before = plot.builds;
+    const auto dialog = openDialog(plot);
+    harness::grab(plot);
+    QCOMPARE(plot.builds, before);
+    FieldBinder& binder = dialog->getBinder();
+    // The steps of a slider between two frames.
+    for (int step = 0; step < 5; ++step)
+        binder.edit(id, otherValue(binder.getField(id), binder.value(id)), 1);
+    harness::grab(plot);
+    QCOMPARE(plot.builds - before, builds);
+}
+
+void TestSettingsDialog::axesOfADirectionAreEditedTogether()
+{
+    StyledPlot plot;
+    CoordinateSystem& system = plot.getCoordinateSystem();
+    system.getAxis(XBackTop).getSettings().getLine().setColor(Qt::green);
+    const auto dialog = openDialog(plot);
+    FieldBinder& binder = dialog->getBinder();
+    const auto colors = [&system](BaseAxisType direction) {
+        QStringList names;
+        for (AxisType type : edgesOf(direction))
+            names.append(system.getAxis(type).getSettings().getLine().getColor().name());
+        return names.join(' ');
+    };
+    const QString before = colors(XAxis);
+    const QString others = colors(YAxis) + colors(ZAxis);
+    binder.edit("axes/axis0/line/color", QColor(Qt::red));
+    QCOMPARE(colors(XAxis), QString("#ff0000 #ff0000 #ff0000 #ff0000"));
+    QCOMPARE(colors(YAxis) + colors(ZAxis), others);
+    QCOMPARE(binder.getUndoStack().count(), 1);
+    binder.getUndoStack().undo();
+    QCOMPARE(colors(XAxis), before);
+    editorOf(*dialog, "axes/axis0/line/color");
+    dialog->findChild<QCheckBox*>("alike")->click();
+    binder.edit("axes/axis0/line/color", QColor(Qt::red));
+    QCOMPARE(colors(XAxis).count("#ff0000"), 1);
+}
+
+void TestSettingsDialog::chosenAxisIsHighlighted()
+{
+    StyledPlot plot;
+    CoordinateSystem& system = plot.getCoordinateSystem();
+    const auto dialog = openDialog(plot);
+    QVERIFY(!system.isHighlight());
+    editorOf(*dialog, "axes/axis0/line/color");
+    auto* box = dialog->findChild<AxesGroupBox*>();
+    box->findChild<QCheckBox*>("alike")->click();
+    for (AxisType type : {YRightBottom, ZFrontLeft, XBackTop}) {
+        // Near one end, where no other edge crosses.
+        const QPointF place = box->getPicker().lineOf(type).pointAt(0.3);
+        QTest::mouseClick(&box->getPicker(), Qt::LeftButton, {}, place.toPoint());
+        QCOMPARE(box->getChosen(), type);
+        QVERIFY(system.isHighlight());
+        for (int i = 0; i < 12; ++i)
+            QCOMPARE(system.getAxis(AxisType(i)).isHighlighted(), i == int(type));
+        QVERIFY(editorOf(*dialog, QString("axes/axis%1/line/color").arg(int(type)))->isVisible());
+    }
+    dialog->setCurrentRow(0);
+    QVERIFY(!system.isHighlight());
+    editorOf(*dialog, "axes/axis0/line/color");
+    QVERIFY(system.isHighlight());
+    dialog->reject();
+    QVERIFY(!system.isHighlight());
+}
+
+void TestSettingsDialog::markersKeepTheHostsOwn()
+{
+    class OwnMarker : public Dot
+    {
+    public:
+        Addition* clone() const override { return new OwnMarker(*this); }
+    };
+    StyledPlot plot;
+    OwnMarker own;
+    const Addition* held = plot.addAddition(own);
+    DotAddition dot(2.0, false, Qt::blue);
+    const Addition* heldDot = plot.addAddition(dot);
+    const auto dialog = openDialog(plot);
+    auto* editor = static_cast<MarkersEditor*>(editorOf(*dialog, "additions/markers"));
+    editor->add("sphere");
+    QCOMPARE(plot.getAdditions().size(), 3);
+    emit editor->findChild<ValueEditor*>("radius")->edited(7.0, 0);
+    QCOMPARE(dynamic_cast<SphereAddition*>(plot.getAdditions().at(2))->getRadius(), 7.0);
+    editor->choose(0);
+    QVERIFY(!editor->findChildren<QPushButton*>().at(1)->isEnabled());
+    editor->choose(1);
+    QCOMPARE(editor->findChildren<QPushButton*>().at(1)->isEnabled(), true);
+    editor->removeChosen();
+    QCOMPARE(plot.getAdditions().size(), 2);
+    QCOMPARE(static_cast<const Addition*>(plot.getAdditions().at(0)), held);
+    dialog->getBinder().getUndoStack().undo();
+    QCOMPARE(plot.getAdditions().size(), 3);
+    QVERIFY(plot.getAdditions().at(1) != heldDot);
+    QCOMPARE(dynamic_cast<DotAddition*>(plot.getAdditions().at(1))->getColor(), QColor(Qt::blue));
+    dialog->reject();
+    QCOMPARE(plot.getAdditions().size(), 2);
+    // What the host adds is not doubled by what was stored.
+    plot.slotSaveSettings();
+    StyledPlot again;
+    again.addAddition(own);
+    again.slotLoadSettings();
+    QCOMPARE(again.getAdditions().size(), 2);
+}
+
+void TestSettingsDialog::colorsOfOneVisitAreOneStep()
+{
+    StyledPlot plot;
+    const auto dialog = openDialog(plot);
+    auto* button = editorOf(*dialog, "common/background")->findChild<ColorButton*>();
+    const QUndoStack& undo = dialog->getBinder().getUndoStack();
+    const QColor before = plot.getBackgroundColor();
+    const QColor half(10, 20, 30, 128);
+    for (bool cancelled : {true, false}) {
+        button->click();
+        auto* colors = button->findChild<QColorDialog*>();
+        colors->setCurrentColor(Qt::red);
+        colors->setCurrentColor(half);
+        QCOMPARE(plot.getBackgroundColor(), half);
+        QCOMPARE(undo.count(), 1);
+        if (cancelled)
+            colors->reject();
+        else
+            colors->accept();
+        QCOMPARE(undo.count(), cancelled ? 0 : 1);
+        QCOMPARE(plot.getBackgroundColor(), cancelled ? before : half);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+
+void TestSettingsDialog::editedGradientsReachThePlot()
+{
+    StyledPlot plot;
+    const auto dialog = openDialog(plot);
+    const QUndoStack& undo = dialog->getBinder().getUndoStack();
+    ValueEditor* editor = editorOf(*dialog, "style/gradient");
+    auto* button = editor->findChild<GradientButton*>();
+    QCOMPARE(button->getCurrentName(), QString("ramp"));
+    button->editCurrent();
+    auto* gradients = button->findChild<GradientEditDialog*>();
+    for (const QColor& color : {QColor(Qt::cyan), QColor(Qt::magenta)})
+        gradients->getModel()->setColor(0, color);
+    QCOMPARE(gradientStops(plot.getCurrentGradient()).first().second, QColor(Qt::magenta));
+    QCOMPARE(undo.count(), 1);
+    QCOMPARE(gradientStops(plot.getLegend().getGradient()).first().second, QColor(Qt::magenta));
+    gradients->accept();
+    // A gradient that is not in use is the plot's, too.
+    auto* store = editor->findChild<GradientManager*>();
+    store->addGradient("third", plain(Qt::yellow));
+    QTRY_VERIFY(plot.getSettings().getGradients().getGradients().contains("third"));
+    QCOMPARE(plot.getSettings().getGradients().getCurrent(), QString("ramp"));
+    dialog->reject();
+    QVERIFY(!plot.getSettings().getGradients().getGradients().contains("third"));
+    QCOMPARE(gradientStops(plot.getCurrentGradient()).first().second, QColor(Qt::black));
+    QCOMPARE(plot.getDataColor()->getGradient(), plot.getCurrentGradient());
 }
 
 int main(int argc, char* argv[])
