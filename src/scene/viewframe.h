@@ -35,6 +35,6 @@ ViewFrame currentViewFrame();
 
 /// The matrix, in OpenGL's column order, that spreads a tile of a picture over the viewport when it stands
 /// before the projection; the identity without a tile.
-VORANPLOT_EXPORT std::array<double, 16> tileMatrix(const DrawTarget& target);
+std::array<double, 16> tileMatrix(const DrawTarget& target);
 
 } // namespace Zel3D

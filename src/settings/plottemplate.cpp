@@ -39,9 +39,10 @@ const QRegularExpression& viewIds()
 /// What belongs to the data or to the way of working; the gradient is kept with its stops.
 const QRegularExpression& foreignIds()
 {
-    static const QRegularExpression ids("^(title/text|axes/./name/text|common/resolution|scales/./type|"
-                                        "lighting/light\\d+/(radius|target.)|"
-                                        "common/(info|toolTips|autoRotation|threshold)|style/gradient)$");
+    static const QRegularExpression ids(
+        "^(title/text|axes/axis\\d+/name/text|common/resolution|scales/./type|"
+        "lighting/light\\d+/(radius|target.)|"
+        "common/(info|toolTips|autoRotation|threshold)|style/gradient)$");
     return ids;
 }
 
@@ -122,7 +123,7 @@ QVector<Field> PlotTemplate::fields(BasePlot& plot, int parts)
     QVector<Field> chosen;
     for (const Field& field : allFields(plot)) {
         const int part = viewIds().match(field.id).hasMatch() ? View : Appearance;
-        if ((parts & part) != 0 && !foreignIds().match(field.id).hasMatch())
+        if ((parts & part) != 0 && field.kind != Field::Custom && !foreignIds().match(field.id).hasMatch())
             chosen.append(field);
     }
     return chosen;

@@ -189,6 +189,8 @@ QString expected(const BasePlot& plot, const Field& field)
         return Words::tr("the plot offers: %1").arg(offerNames(plot, field).join(", "));
     case Field::Text:
         return Words::tr("a text of at most %1 letters is expected").arg(longestText);
+    case Field::Custom:
+        break;
     }
     return {};
 }
@@ -219,6 +221,8 @@ QString TemplateText::write(const BasePlot& plot, const Field& field, const QVar
         return offerName(plot, field, value);
     case Field::Text:
         return value.toString();
+    case Field::Custom:
+        break; // has no text
     }
     return {};
 }
@@ -248,6 +252,8 @@ std::optional<QVariant> TemplateText::read(const BasePlot& plot, const Field& fi
     case Field::Text:
         if (text.size() <= longestText)
             value = text;
+        break;
+    case Field::Custom:
         break;
     }
     if (!value)

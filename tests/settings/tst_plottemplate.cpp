@@ -242,12 +242,12 @@ void TestPlotTemplate::damageIsNamed()
     const auto plot = makePlot("surface");
     QMap<QString, QString> expected = PlotTemplate::of(*plot, everything).getEntries();
     expected["common/background"] = "#ff102030";
-    expected["axes/x/line/width"] = "2.5";
+    expected["axes/axis0/line/width"] = "2.5";
     // The valid entries stand before and behind the damaged ones.
     const QByteArray before = "[common]\nbackground=#102030\n";
     const QByteArray behind = lines.endsWith('\n') ? "[axes]\nx\\line\\width=2.5\n" : "";
     if (behind.isEmpty())
-        expected["axes/x/line/width"] = PlotTemplate::of(*plot).getEntries().value("axes/x/line/width");
+        expected["axes/axis0/line/width"] = PlotTemplate::of(*plot).getEntries().value("axes/axis0/line/width");
     writeFile(path(), head + "\n" + before + lines + behind);
 
     PlotTemplate look;
