@@ -1,12 +1,10 @@
 #pragma once
 
-#include "core/export.h"
-
 namespace Zel3D {
 
 /// What to subtract from coordinates between two values so that single precision, in which the scene is
 /// drawn, tells them apart: 0 where it does so anyway, the middle of the range where fewer than some
 /// thousands of places would be left.
-VORANPLOT_EXPORT double dataOrigin(double lowest, double highest);
+double dataOrigin(double lowest, double highest);
 
 } // namespace Zel3D

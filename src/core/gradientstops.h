@@ -18,6 +18,6 @@ VORANPLOT_EXPORT bool sameGradient(const QGradient& a, const QGradient& b);
 
 /// How many stops to read where \a size says how many were stored: never below 0 and never more than a
 /// gradient that a person made would have, whatever stands there.
-VORANPLOT_EXPORT int storedStopCount(const QVariant& size);
+int storedStopCount(const QVariant& size);
 
 } // namespace Zel3D

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "core/export.h"
-
 #include <QVariant>
 
 namespace Zel3D {
@@ -19,14 +17,14 @@ class Addition;
 /// | arrow | endX, endY, endZ (scene units), color, quality (sides of the head) |
 ///
 /// A class of the host's has the kind ownMarkerKind() and no values.
-VORANPLOT_EXPORT QVariantMap describeMarker(const Addition& marker);
+QVariantMap describeMarker(const Addition& marker);
 /// Gives a marker of the same kind the values; missing ones stay, refused ones too.
-VORANPLOT_EXPORT void changeMarker(Addition& marker, const QVariantMap& values);
+void changeMarker(Addition& marker, const QVariantMap& values);
 /// A new marker, owned by the caller, with the usual values where some are missing; null for an unknown
 /// kind.
-VORANPLOT_EXPORT Addition* makeMarker(const QVariantMap& values);
+Addition* makeMarker(const QVariantMap& values);
 /// The kinds that makeMarker() knows, in the order in which lists show them.
-VORANPLOT_EXPORT QStringList markerKinds();
-VORANPLOT_EXPORT QString ownMarkerKind();
+QStringList markerKinds();
+QString ownMarkerKind();
 
 } // namespace Zel3D

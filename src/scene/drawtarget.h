@@ -1,7 +1,5 @@
 #pragma once
 
-#include "core/export.h"
-
 #include <QRect>
 #include <QSize>
 
@@ -33,7 +31,7 @@ enum StrokeToken : int { LineWidthToken = 7001, PointSizeToken = 7002, LineStipp
 /// OpenGL keeps no place for a target, and what records display lists and draws additions has no parameter
 /// for it: like the current context it belongs to the thread. A scope therefore encloses the drawing of one
 /// frame or the recording of lists and nothing that lets other widgets paint.
-class VORANPLOT_EXPORT DrawTargetScope
+class DrawTargetScope
 {
 public:
     explicit DrawTargetScope(const DrawTarget& target);

@@ -17,7 +17,7 @@ struct FieldGroup;
 /// The settings of the twelve axes: one is chosen in a drawing of the box or in a list, and is highlighted in
 /// the plot while the box is shown. On demand, and from the beginning, the axes of one direction are edited
 /// together.
-class VORANPLOT_EXPORT AxesGroupBox : public AbstractSettingsGroupBox
+class AxesGroupBox : public AbstractSettingsGroupBox
 {
     Q_OBJECT
 public:

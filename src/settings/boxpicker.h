@@ -1,6 +1,5 @@
 #pragma once
 
-#include "core/export.h"
 #include "core/types.h"
 
 #include <QLineF>
@@ -10,7 +9,7 @@
 namespace Zel3D {
 
 /// A drawing of the coordinate box of which a person picks an edge, with the mouse or with the arrow keys.
-class VORANPLOT_EXPORT BoxPicker : public QWidget
+class BoxPicker : public QWidget
 {
     Q_OBJECT
 public:
@@ -51,8 +50,8 @@ private:
 };
 
 /// "X axis, front bottom" and so on.
-VORANPLOT_EXPORT QString axisName(AxisType type);
+QString axisName(AxisType type);
 /// All axes in the order in which lists show them.
-VORANPLOT_EXPORT QVector<AxisType> listedAxes();
+QVector<AxisType> listedAxes();
 
 } // namespace Zel3D

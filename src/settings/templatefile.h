@@ -18,7 +18,7 @@ struct VORANPLOT_EXPORT SkippedEntry
 
 /// Texts by their keys in an INI file. What is damaged is left out and named, so that nothing is read that
 /// the file does not state in full.
-class VORANPLOT_EXPORT TemplateFile
+class TemplateFile
 {
 public:
     explicit TemplateFile(const QString& filePath) : path(filePath) {}

@@ -46,6 +46,10 @@ const QVector<Names>& knownNames()
         {ids("legend/position"), {"top", "bottom", "left", "right"}},
         {ids("lighting/light\\d+/type"), {"directional", "dotted", "spot"}},
         {ids(".*/tics/style"), {"out", "both"}},
+        {ids(".*/alignment"),
+         {"top left", "top center", "top right", "center left", "automatic", "center right", "bottom left",
+          "bottom center", "bottom right"}},
+        {ids(".*/arrow/style"), {"filled", "outline", "points", "lines"}},
         {ids(".*/arrow/size"), {"small", "normal", "large"}},
         {ids("grid/(major|minor)Style"), {"solid", "dashes", "dots", "dash and dot", "dash and two dots"}},
     };

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "core/export.h"
-
 #include <QGradient>
 #include <QString>
 #include <QVariant>
@@ -18,19 +16,18 @@ struct Field;
 namespace TemplateText {
 
 /// \a plot says what the plot styles are called.
-VORANPLOT_EXPORT QString write(const BasePlot& plot, const Field& field, const QVariant& value);
+QString write(const BasePlot& plot, const Field& field, const QVariant& value);
 /// Nothing when the text is no value of the field; \a reason is then a sentence. The range of a number is not
 /// looked at.
-VORANPLOT_EXPORT std::optional<QVariant> read(const BasePlot& plot, const Field& field, const QString& text,
-                                              QString& reason);
+std::optional<QVariant> read(const BasePlot& plot, const Field& field, const QString& text, QString& reason);
 /// The name of a value that a choice offers, the same in every language.
-VORANPLOT_EXPORT QString offerName(const BasePlot& plot, const Field& field, const QVariant& value);
+QString offerName(const BasePlot& plot, const Field& field, const QVariant& value);
 
 /// "0 #ff000000, 1 #ffffffff"; empty for a gradient without stops.
-VORANPLOT_EXPORT QString writeStops(const QGradient& gradient);
+QString writeStops(const QGradient& gradient);
 /// A linear gradient from such a text. Every stop must be valid, positions must not fall, and there are at
 /// most mostStops.
-VORANPLOT_EXPORT std::optional<QLinearGradient> readStops(const QString& text, QString& reason);
+std::optional<QLinearGradient> readStops(const QString& text, QString& reason);
 
 constexpr int mostStops = 1000;
 

@@ -245,7 +245,7 @@ void TestPlotTemplate::damageIsNamed()
     expected["axes/axis0/line/width"] = "2.5";
     // The valid entries stand before and behind the damaged ones.
     const QByteArray before = "[common]\nbackground=#102030\n";
-    const QByteArray behind = lines.endsWith('\n') ? "[axes]\nx\\line\\width=2.5\n" : "";
+    const QByteArray behind = lines.endsWith('\n') ? "[axes]\naxis0\\line\\width=2.5\n" : "";
     if (behind.isEmpty())
         expected["axes/axis0/line/width"] = PlotTemplate::of(*plot).getEntries().value("axes/axis0/line/width");
     writeFile(path(), head + "\n" + before + lines + behind);
