@@ -160,6 +160,7 @@ void BasePlot::draw()
             glEnable(GL_NORMALIZE);
         for (const DisplayList& list : drawingLists)
             list.call();
+        drawArrays();
     }
     drawCoordinateSystem();
     pickHighlight->draw(devicePixelRatioF());
@@ -286,6 +287,8 @@ void BasePlot::createAdditions()
 void BasePlot::calculateHull() {}
 
 void BasePlot::createData() {}
+
+void BasePlot::drawArrays() {}
 
 void BasePlot::createAddition(Addition& /*addition*/) {}
 

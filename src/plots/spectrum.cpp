@@ -72,8 +72,12 @@ bool Spectrum::loadFromData(const std::map<double, std::map<double, double>>& sp
     QString fault = DataCheck::spectra(spectra, axis);
     SpectrumData::Map loaded;
     int lost = 0;
+    const std::array<bool, 3>& directions = getLogarithmicData();
+    const bool plain = !directions[0] && !directions[1] && !directions[2];
+    const bool refilled =
+        fault.isEmpty() && plain && axis == spectrumData->getAxis() && spectrumData->setHeights(spectra);
     // Copied before anything is cleared: memory may run out, and the map may be the plot's own.
-    if (fault.isEmpty()) {
+    if (fault.isEmpty() && !refilled) {
         try {
             loaded = toExponents(spectra, axis, lost);
         } catch (const std::bad_alloc&) {
@@ -86,12 +90,14 @@ bool Spectrum::loadFromData(const std::map<double, std::map<double, double>>& sp
     }
     const BusyScope rebuilding(*this);
     clearPickPoints();
-    spectrumData->clear();
     setData(spectrumData.get());
     applyLogarithmicData();
-    spectrumData->setAxis(axis);
-    spectrumData->setData(std::move(loaded));
-    warnOfLostValues(lost);
+    if (!refilled) {
+        spectrumData->clear();
+        spectrumData->setAxis(axis);
+        spectrumData->setData(std::move(loaded));
+        warnOfLostValues(lost);
+    }
     if (spectrumData->isEmpty())
         setHull(Parallelepiped());
     updateData();
