@@ -183,7 +183,6 @@ public:
     void prepare(const Heights& heights) override
     {
         vertices.clear();
-        cells.clear();
         const int nodes = heights.size();
         const double step = 2.0 / (nodes - 1);
         for (int i = 0; i < nodes; ++i) {
@@ -191,6 +190,9 @@ public:
                 vertices.append(
                     QVector3D(float(-1.0 + i * step), float(-1.0 + j * step), float(heights.at(i, j))));
         }
+        // As with the surface, a reload brings new heights; what joins them stays.
+        if (!cells.isEmpty())
+            return;
         const auto index = [nodes](int i, int j) { return unsigned(i * nodes + j); };
         for (int i = 0; i + 1 < nodes; ++i) {
             for (int j = 0; j + 1 < nodes; ++j) {

@@ -87,8 +87,8 @@ inline bool show(Candidate& candidate)
 }
 
 /// Starts the program again with malloc told to keep its memory, unless that was done: the software renderer
-/// otherwise gives memory back and faults it in again at some sizes, which can double a frame. Does nothing when
-/// the environment has VORAN_BENCH_MALLOC=default.
+/// otherwise gives memory back and faults it in again at some sizes, which can double a frame. Does nothing
+/// when the environment has VORAN_BENCH_MALLOC=default.
 void keepMemory(char* argv[]);
 
 } // namespace bench

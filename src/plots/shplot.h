@@ -8,6 +8,7 @@ namespace Zel3D {
 
 class ArrowAddition;
 class CellData;
+class ColorLookup;
 class GridArrays;
 
 /// The plot widget for surfaces, point clouds and histograms over a grid or over polygon cells.
@@ -113,6 +114,7 @@ private:
     void drawGridMesh(int step);
     void drawCellSurface(int style);
     void drawCellMesh();
+    std::vector<ColorChannels> vertexColors(const ColorLookup& color) const;
     bool cellIsWhole(const QVector<unsigned int>& cell) const;
     /// Calls \a use with the marker by which the data are picked, if there is one.
     template <class Use>

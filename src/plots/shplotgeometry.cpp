@@ -273,6 +273,18 @@ void SHPlot::createCellData()
         drawCellMesh();
 }
 
+// Each vertex once, although several cells send it.
+std::vector<ColorChannels> SHPlot::vertexColors(const ColorLookup& color) const
+{
+    const QVector<QVector3D>& vertices = cellData->getVertices();
+    std::vector<ColorChannels> colors(std::size_t(vertices.size()));
+    for (std::size_t i = 0; i < colors.size(); ++i) {
+        if (!cellData->hasMissing() || !cellData->isMissing(unsigned(i)))
+            colors[i] = color(vertices.at(int(i)));
+    }
+    return colors;
+}
+
 void SHPlot::drawCellSurface(int style)
 {
     glPolygonMode(GL_FRONT_AND_BACK, keptPolygonMode);
@@ -281,6 +293,7 @@ void SHPlot::drawCellSurface(int style)
         sendColor(getBackgroundColor());
     const ColorLookup color(*getDataColor());
     const OpaqueScope unblended(keep ? getBackgroundColor().alpha() == 255 : color.isOpaque());
+    const std::vector<ColorChannels> colors = keep ? std::vector<ColorChannels>() : vertexColors(color);
     for (const QVector<unsigned int>& cell : cellData->getCells()) {
         if (!cellIsWhole(cell))
             continue;
@@ -290,7 +303,7 @@ void SHPlot::drawCellSurface(int style)
             const QVector3D& p = cellData->getVertices().at(vertex);
             const QVector3D& n = cellData->getVertexNormals().at(vertex);
             if (!keep)
-                sendColor(color(p));
+                sendColor(colors[index]);
             // The normal comes after the vertex and takes effect for the following corner.
             glVertex3d(double(p.x()), double(p.y()), double(p.z()));
             glNormal3d(double(n.x()), double(n.y()), double(n.z()));

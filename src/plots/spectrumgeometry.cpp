@@ -14,6 +14,7 @@
 #include "view/opengl.h"
 
 #include <algorithm>
+#include <array>
 
 namespace Zel3D {
 
@@ -30,6 +31,42 @@ void sendVertex(const QVector3D& p)
 void sendPoint(const ColorLookup& color, const QVector3D& p)
 {
     const ColorChannels c = color(p);
+    glColor4d(c[0], c[1], c[2], c[3]);
+    sendVertex(p);
+}
+
+/// The colours of the heights met last: neighbouring bands share most of theirs.
+class RecentColors
+{
+public:
+    explicit RecentColors(const DataColor& coloring) : color(coloring) {}
+
+    const ColorChannels& at(const QVector3D& p)
+    {
+        if (color.isByHeight()) {
+            for (std::size_t i = 0; i < known; ++i) {
+                if (heights[i] == p.z())
+                    return colors[i];
+            }
+        }
+        oldest = (oldest + 1) % heights.size();
+        known = std::max(known, oldest + 1);
+        heights[oldest] = p.z();
+        colors[oldest] = color(p);
+        return colors[oldest];
+    }
+
+private:
+    const ColorLookup color;
+    std::array<float, 4> heights{};
+    std::array<ColorChannels, 4> colors{};
+    std::size_t known = 0;
+    std::size_t oldest = 3;
+};
+
+void sendPoint(RecentColors& colors, const QVector3D& p)
+{
+    const ColorChannels& c = colors.at(p);
     glColor4d(c[0], c[1], c[2], c[3]);
     sendVertex(p);
 }
@@ -225,7 +262,7 @@ void Spectrum::drawGradientSpectrum(SpectrumOrder order)
 void Spectrum::drawOneSpectrum(Entry spectrum)
 {
     const double outer = spectrum->first;
-    const ColorLookup color(*getDataColor());
+    RecentColors color(*getDataColor());
     const auto send = [&](double position, double height) {
         sendPoint(color, place(outer, position, height));
     };
@@ -267,7 +304,7 @@ std::vector<double> Spectrum::stopLevels() const
 void Spectrum::drawOneGradientSpectrum(Entry spectrum)
 {
     const double outer = spectrum->first;
-    const ColorLookup color(*getDataColor());
+    RecentColors color(*getDataColor());
     const std::vector<double> levels = stopLevels();
     const SpectrumBands bands(levels);
     const Jumps jumps(levels);
