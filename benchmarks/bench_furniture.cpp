@@ -61,12 +61,12 @@ int main(int argc, char* argv[])
     bench::keepMemory(argv);
     const QApplication application(argc, argv);
     std::printf(
-        "Frame of a filled surface of 128 by 128 nodes, 800 by 600, no multisampling; medians in ms\n");
-    std::printf("%10s %10s %10s\n", "plain", "full box", "added");
+        "Frame of a filled surface of 128 by 128 nodes, 800 by 600, no multisampling; medians in ms\n\n");
+    std::printf("| plain | full box | added |\n| --- | --- | --- |\n");
     for (int run = 0; run < 5; ++run) {
         const double plain = frameTime(false);
         const double full = frameTime(true);
-        std::printf("%10.2f %10.2f %10.2f\n", plain, full, full - plain);
+        std::printf("| %.2f | %.2f | %.2f |\n", plain, full, full - plain);
     }
     return 0;
 }

@@ -55,12 +55,12 @@ int main(int argc, char* argv[])
     QApplication application(argc, argv);
     if (argc == 3)
         return measure(std::strcmp(argv[1], "library") == 0, std::atoi(argv[2]));
-    std::printf("Peak memory in MB, no multisampling\n%6s %10s %10s %22s\n", "nodes", "floor", "library",
-                "bytes a node on top");
+    std::printf("Peak memory in MB, no multisampling\n\n"
+                "| N | floor | library | bytes a node on top |\n| --- | --- | --- | --- |\n");
     for (int nodes : {128, 256, 512, 1024, 2048}) {
         const double floor = inProcess("floor", nodes);
         const double library = inProcess("library", nodes);
-        std::printf("%5d2 %10.1f %10.1f %22.0f\n", nodes, floor, library,
+        std::printf("| %d | %.0f | %.0f | %.0f |\n", nodes, floor, library,
                     (library - floor) * 1024.0 * 1024.0 / (double(nodes) * nodes));
     }
     return 0;

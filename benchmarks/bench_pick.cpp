@@ -61,8 +61,8 @@ int main(int argc, char* argv[])
     bench::keepMemory(argv);
     const QApplication application(argc, argv);
     const int largest = argc > 1 ? std::atoi(argv[1]) : 2048;
-    std::printf("A pick on a filled surface of N by N nodes, 800 by 600; ms\n");
-    std::printf("%6s %10s %10s %10s %12s %8s\n", "N", "first", "median", "worst", "plain way", "hits");
+    std::printf("A pick on a filled surface of N by N nodes, 800 by 600; ms\n\n");
+    std::printf("| N | first | median | worst | plain way | hits |\n| --- | --- | --- | --- | --- | --- |\n");
     for (int nodes = 128; nodes <= largest; nodes *= 2) {
         bench::Heights heights(nodes);
         Plot plot;
@@ -82,7 +82,7 @@ int main(int argc, char* argv[])
         const Times library = picks(plot, 200);
         plot.setPickEverything(true);
         const Times plain = picks(plot, 3);
-        std::printf("%6d %10.2f %10.2f %10.2f %12.1f %8d\n", nodes, library.first, library.median,
+        std::printf("| %d | %.2f | %.2f | %.2f | %.1f | %d |\n", nodes, library.first, library.median,
                     library.worst, plain.median, library.hits);
         std::fflush(stdout);
     }

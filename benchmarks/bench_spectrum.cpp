@@ -1,6 +1,7 @@
 // The spectrum plot against a bare display list of the same polygons from arrays that are ready: load, frame
 // and reload of filled sheets. The two take turns; ends with a table of medians and ratios.
 
+#include "comparison.h"
 #include "surfacebench.h"
 
 #include "core/spectrumbands.h"
@@ -9,18 +10,17 @@
 
 #include <QApplication>
 
-#include <algorithm>
 #include <array>
-#include <chrono>
 #include <cmath>
 #include <cstdio>
-#include <functional>
+#include <string>
 #include <vector>
 
 #include <GL/gl.h>
 
 namespace {
 
+using bench::Comparison;
 using Map = Zel3D::SpectrumData::Map;
 
 const std::vector<double> stops{0.0, 0.25, 0.5, 0.75, 1.0};
@@ -94,8 +94,6 @@ public:
         starts.push_back(positions.size());
     }
 
-    std::size_t polygons() const { return starts.size() - 1; }
-
     void load()
     {
         makeCurrent();
@@ -155,6 +153,14 @@ private:
     std::vector<std::array<float, 4>> colors;
 };
 
+/// The zoom at which the library shows its box as large as the floor does: the library's camera sees the
+/// sphere around the box as it is, the floor's the one around the cube that the box is drawn as.
+double floorZoom(int count, int points)
+{
+    const QVector3D sides(float(points - 1), float(count - 1), 1.1F);
+    return double(sides.length()) / (std::sqrt(3.0) * double(points - 1));
+}
+
 class Library : public Zel3D::Spectrum
 {
 public:
@@ -168,74 +174,45 @@ public:
     }
 };
 
-using Clock = std::chrono::steady_clock;
-
-double milliseconds(const std::function<void()>& work)
-{
-    const auto start = Clock::now();
-    work();
-    return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
-}
-
-void paint(QGLWidget& widget)
-{
-    widget.updateGL();
-    glFinish();
-}
-
-double median(std::vector<double>& times)
-{
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
-}
-
-/// Each phase for both, one after the other, so that a busy machine disturbs both.
+/// Each phase for both, one after the other.
 bool measure(int count, int points, int rounds)
 {
     const std::array<Map, 2> maps{spectra(count, points, 0.0), spectra(count, points, 1.0)};
-    enum Phase : std::size_t { Load, Frame, Reload };
-    std::array<std::vector<double>, 3> floorTimes;
-    std::array<std::vector<double>, 3> libraryTimes;
-    std::size_t polygons = 0;
+    const std::string size = std::to_string(count) + " x " + std::to_string(points);
+    Comparison load("load", size);
+    Comparison frame("frame", size);
+    Comparison reload("reload", size);
     for (int round = 0; round < rounds; ++round) {
         Floor floor;
         Library library;
+        library.setZoom(floorZoom(count, points));
         if (!bench::show(floor) || !bench::show(library))
             return false;
-        for (std::size_t i = 0; i < 4; ++i) {
+        for (std::size_t i = 0; i < 5; ++i) {
             const Map& map = maps[i % 2];
-            const Phase phase = i == 0 ? Load : Reload;
             floor.prepare(map);
-            polygons = floor.polygons();
-            floorTimes[phase].push_back(milliseconds([&] {
-                floor.load();
-                paint(floor);
-            }));
-            libraryTimes[phase].push_back(milliseconds([&] {
-                library.loadFromData(map, Zel3D::YAxis);
-                paint(library);
-            }));
+            (i == 0 ? load : reload)
+                .run(
+                    [&] {
+                        floor.load();
+                        bench::paint(floor);
+                    },
+                    [&] {
+                        library.loadFromData(map, Zel3D::YAxis);
+                        bench::paint(library);
+                    });
         }
+        bench::compareExtents(floor, library);
         for (int i = 0; i < 10; ++i) {
             floor.angle += 1.0;
             Zel3D::ValueXYZ<double> rotation = library.getRotation();
             rotation.z += 1.0;
             library.setRotation(rotation);
-            const double floorTime = milliseconds([&] { paint(floor); });
-            const double libraryTime = milliseconds([&] { paint(library); });
-            if (i < 2)
-                continue; // warming up
-            floorTimes[Frame].push_back(floorTime);
-            libraryTimes[Frame].push_back(libraryTime);
+            frame.run([&] { bench::paint(floor); }, [&] { bench::paint(library); });
         }
     }
-    const std::array<const char*, 3> names{"load", "frame", "reload"};
-    for (std::size_t i = 0; i < names.size(); ++i) {
-        const double floorTime = median(floorTimes[i]);
-        const double libraryTime = median(libraryTimes[i]);
-        std::printf("%-8s %4d x %-5d %9zu %10.2f %10.2f %8.2f\n", names[i], count, points, polygons,
-                    floorTime, libraryTime, libraryTime / floorTime);
-    }
+    for (const Comparison& comparison : {load, frame, reload})
+        comparison.print();
     return true;
 }
 
@@ -245,8 +222,7 @@ int main(int argc, char* argv[])
 {
     bench::keepMemory(argv);
     const QApplication application(argc, argv);
-    std::printf("Filled spectra, 800 by 600, no multisampling; medians in ms\n%-8s %12s %9s %10s %10s %8s\n",
-                "what", "spectra", "polygons", "floor", "library", "ratio");
+    Comparison::printHead("Filled spectra, 800 by 600, no multisampling");
     if (measure(60, 401, 7) && measure(50, 2000, 5))
         return 0;
     std::fprintf(stderr, "bench_spectrum: a window did not appear\n");

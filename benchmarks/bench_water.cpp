@@ -151,19 +151,20 @@ int main(int argc, char* argv[])
     bench::keepMemory(argv);
     const QApplication application(argc, argv);
     const bool multisampling = argc > 1 && std::strcmp(argv[1], "--samples") == 0;
-    std::printf("Steps a second, water of %d by %d nodes, window of 800 by 600, %s\n%10s %10s %8s\n", nodes,
-                nodes, multisampling ? "4 samples" : "no multisampling", "floor", "library", "ratio");
+    std::printf("Steps a second, water of %d by %d nodes, window of 800 by 600, %s\n\n"
+                "| floor | library | ratio |\n| --- | --- | --- |\n",
+                nodes, nodes, multisampling ? "4 samples" : "no multisampling");
     std::vector<double> floors;
     std::vector<double> libraries;
     for (int i = 0; i < rounds; ++i) {
         const std::pair<double, double> times = round(multisampling);
         floors.push_back(times.first);
         libraries.push_back(times.second);
-        std::printf("%10.1f %10.1f %8.2f\n", 1000.0 / floors.back(), 1000.0 / libraries.back(),
+        std::printf("| %.1f | %.1f | %.2f |\n", 1000.0 / floors.back(), 1000.0 / libraries.back(),
                     floors.back() / libraries.back());
     }
-    std::printf("%10.1f %10.1f %8.2f  median\n", 1000.0 / median(floors), 1000.0 / median(libraries),
+    std::printf("| %.1f | %.1f | %.2f, the median |\n", 1000.0 / median(floors), 1000.0 / median(libraries),
                 median(floors) / median(libraries));
-    std::printf("Resident memory over a thousand steps: %+ld kB\n", growth());
+    std::printf("\nResident memory over a thousand steps: %+ld kB\n", growth());
     return 0;
 }

@@ -1,5 +1,7 @@
 #include "surfacebench.h"
 
+#include "comparison.h"
+
 #include "plots/shplot.h"
 #include "scene/legend.h"
 #include "view/light.h"
@@ -12,6 +14,7 @@
 #include <array>
 #include <cmath>
 #include <cstdlib>
+#include <cstring>
 
 #include <GL/gl.h>
 #include <unistd.h>
@@ -39,16 +42,11 @@ QLinearGradient gradient()
     return result;
 }
 
-/// The camera and the lights of the library's view, bare.
-class FloorWidget : public QGLWidget
+/// The surface as strips.
+class FloorWidget : public FloorView
 {
 public:
-    explicit FloorWidget(bool multisampling) : QGLWidget(windowFormat(multisampling)) {}
-    ~FloorWidget() override
-    {
-        makeCurrent();
-        glDeleteLists(list, 1);
-    }
+    using FloorView::FloorView;
 
     void prepare(const Heights& heights)
     {
@@ -75,12 +73,9 @@ public:
         }
     }
 
-    void load()
+protected:
+    void send() const override
     {
-        makeCurrent();
-        glDeleteLists(list, 1);
-        list = glGenLists(1);
-        glNewList(list, GL_COMPILE);
         for (int i = 0; i < nodes - 1; ++i) {
             glBegin(GL_TRIANGLE_STRIP);
             for (int j = 0; j < nodes; ++j) {
@@ -89,46 +84,6 @@ public:
             }
             glEnd();
         }
-        glEndList();
-    }
-
-    double angle = 0.0;
-
-protected:
-    void initializeGL() override
-    {
-        glEnable(GL_BLEND);
-        glEnable(GL_DEPTH_TEST);
-        glEnable(GL_COLOR_MATERIAL);
-        glLightModeli(GL_LIGHT_MODEL_TWO_SIDE, 1);
-        // The library's light: the floor shades as much as it does.
-        const std::array<float, 4> gray{0.63F, 0.63F, 0.64F, 1.0F};
-        const std::array<float, 4> white{1.0F, 1.0F, 1.0F, 1.0F};
-        const std::array<float, 4> direction{0.87F, 0.87F, 1.22F, 0.0F};
-        glLightfv(GL_LIGHT1, GL_POSITION, direction.data());
-        glLightfv(GL_LIGHT1, GL_AMBIENT, gray.data());
-        glLightfv(GL_LIGHT1, GL_DIFFUSE, white.data());
-        glLightfv(GL_LIGHT1, GL_SPECULAR, white.data());
-        glLightf(GL_LIGHT1, GL_QUADRATIC_ATTENUATION, 0.1F);
-        glEnable(GL_LIGHT1);
-    }
-    void resizeGL(int width, int height) override { glViewport(0, 0, width, height); }
-    void paintGL() override
-    {
-        const double radius = std::sqrt(3.0);
-        glClearColor(1.0F, 1.0F, 1.0F, 1.0F);
-        glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
-        glEnable(GL_LIGHTING);
-        glEnable(GL_NORMALIZE);
-        glMatrixMode(GL_PROJECTION);
-        glPushMatrix();
-        glOrtho(-radius, radius, -radius, radius, 0.0, 40.0 * radius);
-        glTranslatef(0.0F, 0.0F, float(-7.0 * radius));
-        glRotatef(-50.0F, 1.0F, 0.0F, 0.0F);
-        glRotatef(float(angle), 0.0F, 0.0F, 1.0F);
-        glCallList(list);
-        glPopMatrix();
-        glDisable(GL_LIGHTING);
     }
 
 private:
@@ -141,7 +96,6 @@ private:
     }
 
     int nodes = 0;
-    unsigned int list = 0;
     std::vector<std::array<float, 3>> positions;
     std::vector<std::array<float, 3>> normals;
     std::vector<std::array<float, 4>> colors;
@@ -163,35 +117,100 @@ private:
 class Library : public Candidate
 {
 public:
-    explicit Library(bool multisampling) : plot("bench", "voran-bench", "voran-bench")
-    {
-        plot.setFormat(windowFormat(multisampling));
-        plot.setGradient("bench", gradient());
-        plot.setPlotStyle(4);
-        plot.setLighting(true);
-        plot.getLights().at(1)->setOn(true);
-        plot.setRotation({40.0, 0.0, 0.0});
-        plot.getLegend().setVisible(false); // the floor has none
-    }
+    explicit Library(bool multisampling) : plot(makePlot(multisampling)) {}
     void prepare(Heights& /*heights*/) override {}
     void load(Heights& heights) override
     {
         const auto nodes = unsigned(heights.size());
-        plot.loadFromData(heights.columns(), nodes, nodes, -1.0, 1.0, -1.0, 1.0);
+        plot->loadFromData(heights.columns(), nodes, nodes, -1.0, 1.0, -1.0, 1.0);
     }
-    void rotate(double degrees) override
-    {
-        Zel3D::ValueXYZ<double> rotation = plot.getRotation();
-        rotation.z += degrees;
-        plot.setRotation(rotation);
-    }
-    QGLWidget& widget() override { return plot; }
+    void rotate(double degrees) override { turn(*plot, degrees); }
+    QGLWidget& widget() override { return *plot; }
 
 private:
-    Zel3D::SHPlot plot;
+    std::unique_ptr<Zel3D::SHPlot> plot;
 };
 
 } // namespace
+
+FloorView::FloorView(bool multisampling) : QGLWidget(windowFormat(multisampling)) {}
+
+FloorView::~FloorView()
+{
+    makeCurrent();
+    glDeleteLists(list, 1);
+}
+
+void FloorView::load()
+{
+    makeCurrent();
+    glDeleteLists(list, 1);
+    list = glGenLists(1);
+    glNewList(list, GL_COMPILE);
+    send();
+    glEndList();
+}
+
+void FloorView::initializeGL()
+{
+    glEnable(GL_BLEND);
+    glEnable(GL_DEPTH_TEST);
+    glEnable(GL_COLOR_MATERIAL);
+    glLightModeli(GL_LIGHT_MODEL_TWO_SIDE, 1);
+    // The library's light: the floor shades as much as it does.
+    const std::array<float, 4> gray{0.63F, 0.63F, 0.64F, 1.0F};
+    const std::array<float, 4> white{1.0F, 1.0F, 1.0F, 1.0F};
+    const std::array<float, 4> direction{0.87F, 0.87F, 1.22F, 0.0F};
+    glLightfv(GL_LIGHT1, GL_POSITION, direction.data());
+    glLightfv(GL_LIGHT1, GL_AMBIENT, gray.data());
+    glLightfv(GL_LIGHT1, GL_DIFFUSE, white.data());
+    glLightfv(GL_LIGHT1, GL_SPECULAR, white.data());
+    glLightf(GL_LIGHT1, GL_QUADRATIC_ATTENUATION, 0.1F);
+    glEnable(GL_LIGHT1);
+}
+
+void FloorView::resizeGL(int width, int height)
+{
+    glViewport(0, 0, width, height);
+}
+
+void FloorView::paintGL()
+{
+    const double radius = std::sqrt(3.0);
+    glClearColor(1.0F, 1.0F, 1.0F, 1.0F);
+    glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
+    glEnable(GL_LIGHTING);
+    glEnable(GL_NORMALIZE);
+    glMatrixMode(GL_PROJECTION);
+    glPushMatrix();
+    glOrtho(-radius, radius, -radius, radius, 0.0, 40.0 * radius);
+    glTranslatef(0.0F, 0.0F, float(-7.0 * radius));
+    glRotatef(-50.0F, 1.0F, 0.0F, 0.0F);
+    glRotatef(float(angle), 0.0F, 0.0F, 1.0F);
+    glCallList(list);
+    glPopMatrix();
+    glDisable(GL_LIGHTING);
+}
+
+std::unique_ptr<Zel3D::SHPlot> makePlot(bool multisampling)
+{
+    auto plot = std::make_unique<Zel3D::SHPlot>("bench", "voran-bench", "voran-bench");
+    plot->setFormat(windowFormat(multisampling));
+    plot->setGradient("bench", gradient());
+    plot->setPlotStyle(4);
+    plot->setLighting(true);
+    plot->getLights().at(1)->setOn(true);
+    plot->setRotation({40.0, 0.0, 0.0});
+    plot->getLegend().setVisible(false); // the floor has none
+    return plot;
+}
+
+void turn(Zel3D::ZelGLWidget& view, double degrees)
+{
+    Zel3D::ValueXYZ<double> rotation = view.getRotation();
+    rotation.z += degrees;
+    view.setRotation(rotation);
+}
 
 Heights::Heights(int nodes, const std::function<double(int, int)>& height) : count(nodes)
 {
@@ -219,8 +238,7 @@ Heights::Heights(int nodes, double phase)
 
 void Candidate::frame()
 {
-    widget().updateGL();
-    glFinish();
+    paint(widget());
 }
 
 std::unique_ptr<Candidate> makeFloor(bool multisampling)
@@ -249,7 +267,8 @@ bool show(QGLWidget& widget)
 
 void keepMemory(char* argv[])
 {
-    if (std::getenv("MALLOC_TRIM_THRESHOLD_"))
+    const char* wanted = std::getenv("VORAN_BENCH_MALLOC");
+    if (std::getenv("MALLOC_TRIM_THRESHOLD_") || (wanted && std::strcmp(wanted, "default") == 0))
         return;
     setenv("MALLOC_TRIM_THRESHOLD_", "4000000000", 1);
     setenv("MALLOC_MMAP_THRESHOLD_", "4000000000", 1);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "plots/shplot.h"
+
 #include <QGLWidget>
 
 #include <functional>
@@ -45,6 +47,33 @@ public:
     void frame();
 };
 
+/// A view with the camera and the light of the library's, bare, and a list of what send() sends.
+class FloorView : public QGLWidget
+{
+public:
+    explicit FloorView(bool multisampling);
+    ~FloorView() override;
+
+    /// Records the list anew.
+    void load();
+
+    double angle = 0.0; ///< around z, in degrees
+
+protected:
+    virtual void send() const = 0;
+    void initializeGL() override;
+    void resizeGL(int width, int height) override;
+    void paintGL() override;
+
+private:
+    unsigned int list = 0;
+};
+
+/// A filled, lit plot without a legend, under the camera of a FloorView once it has data.
+std::unique_ptr<Zel3D::SHPlot> makePlot(bool multisampling);
+/// Turns a view around z.
+void turn(Zel3D::ZelGLWidget& view, double degrees);
+
 /// The same geometry sent by a bare loop from arrays of floats that are ready: positions, normals, colours.
 std::unique_ptr<Candidate> makeFloor(bool multisampling);
 /// The library's surface plot.
@@ -58,7 +87,8 @@ inline bool show(Candidate& candidate)
 }
 
 /// Starts the program again with malloc told to keep its memory, unless that was done: the software renderer
-/// otherwise gives memory back and faults it in again at some sizes, which can double a frame.
+/// otherwise gives memory back and faults it in again at some sizes, which can double a frame. Does nothing
+/// when the environment has VORAN_BENCH_MALLOC=default.
 void keepMemory(char* argv[]);
 
 } // namespace bench

@@ -48,6 +48,15 @@ void CellData::clear()
     missing = false;
 }
 
+void CellData::squeeze()
+{
+    if (!isEmpty())
+        return;
+    vertices = QVector<QVector3D>();
+    vertexNormals = QVector<QVector3D>();
+    cells = QVector<QVector<unsigned int>>();
+}
+
 bool CellData::isEmpty() const
 {
     return cells.isEmpty();
@@ -61,6 +70,10 @@ void CellData::calcNormals()
         const int corners = cell.size();
         if (corners < 3)
             continue;
+        if (corners == 3) {
+            addTriangle(cell, normals);
+            continue;
+        }
         for (int k = 0; k < corners; ++k) {
             const int current = int(cell.at(k));
             const QVector3D& here = vertices.at(current);
@@ -79,6 +92,17 @@ void CellData::calcNormals()
         if (!isFinite(vertices.at(i)))
             normals[i] = QVector3D();
     }
+}
+
+// The same normal at all three corners.
+void CellData::addTriangle(const QVector<unsigned int>& cell, QVector3D* normals) const
+{
+    const QVector3D normal = QVector3D::normal(vertices.at(int(cell.at(0))), vertices.at(int(cell.at(1))),
+                                               vertices.at(int(cell.at(2))));
+    if (!isFinite(normal))
+        return;
+    for (unsigned int corner : cell)
+        normals[corner] += normal;
 }
 
 bool CellData::isMissing(unsigned int vertex) const

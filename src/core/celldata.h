@@ -23,6 +23,8 @@ public:
                  double stepX, double stepY);
     /// Drops vertices and cells but keeps their capacity, and the normals as they are.
     void clear() override;
+    /// Frees what clear() keeps, once there are no cells; the normals, too.
+    void squeeze();
     bool isEmpty() const override;
 
     /// The k-th corner of a cell.
@@ -47,6 +49,7 @@ public:
     bool hasMissing() const { return missing; }
 
 private:
+    void addTriangle(const QVector<unsigned int>& cell, QVector3D* normals) const;
     int index(unsigned int cell, unsigned int k) const { return int(cells.at(int(cell)).at(int(k))); }
 
     QVector<QVector3D> vertices;

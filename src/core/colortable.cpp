@@ -1,5 +1,6 @@
 #include "core/colortable.h"
 
+#include <algorithm>
 #include <cfloat>
 #include <cmath>
 
@@ -12,6 +13,17 @@ std::array<double, 4> channels(const QColor& color)
     return {double(color.red()), double(color.green()), double(color.blue()), double(color.alpha())};
 }
 
+/// The channels from 0 to 255 as QColor gives them.
+std::array<double, 256> makeFractions()
+{
+    std::array<double, 256> fractions;
+    for (std::size_t i = 0; i < fractions.size(); ++i)
+        fractions[i] = QColor(int(i), 0, 0).redF();
+    return fractions;
+}
+
+const std::array<double, 256> fractions = makeFractions();
+
 } // namespace
 
 ColorTable::ColorTable(const QGradientStops& stops) : count(stops.size())
@@ -20,6 +32,10 @@ ColorTable::ColorTable(const QGradientStops& stops) : count(stops.size())
         return;
     first = stops.first().second;
     last = stops.last().second;
+    firstChannels = channelsOf(first);
+    lastChannels = channelsOf(last);
+    opaque = std::all_of(stops.begin(), stops.end(),
+                         [](const QGradientStop& stop) { return stop.second.alphaF() >= 1.0; });
     for (int i = 1; i < stops.size(); ++i) {
         const double begin = stops.at(i - 1).first;
         const double end = stops.at(i).first;
@@ -35,7 +51,7 @@ ColorTable::ColorTable(const QGradientStops& stops) : count(stops.size())
 
 // The index of the first segment that ends at or behind the position, else the number of segments. The steps
 // depend on the number of segments alone, so that scattered values cost no mispredicted branches.
-std::size_t ColorTable::find(double position) const
+std::size_t ColorTable::segmentAt(double position) const
 {
     constexpr std::size_t countedSegments = 8;
     const double* start = ends.data();
@@ -54,33 +70,66 @@ std::size_t ColorTable::find(double position) const
     return index;
 }
 
-QColor ColorTable::colorAt(double value, double minimum, double maximum) const
+ColorTable::Found ColorTable::find(double value, double minimum, double maximum,
+                                   std::array<int, 4>& color) const
 {
     if (count == 1)
-        return first;
+        return Found::First;
     if (!(minimum < value && value < maximum)) {
         if (value <= minimum)
-            return first;
-        return value >= maximum ? last : QColor();
+            return Found::First;
+        return value >= maximum ? Found::Last : Found::None;
     }
     const double span = maximum - minimum;
     if (span <= DBL_MIN)
-        return QColor();
+        return Found::None;
     const double position = (value - minimum) / span;
-    const std::size_t index = find(position);
+    const std::size_t index = segmentAt(position);
     if (index == segments.size())
-        return QColor();
+        return Found::None;
     const Segment& segment = segments[index];
     const double fraction = (position - segment.begin) / segment.width;
-    std::array<int, 4> color;
     for (std::size_t k = 0; k < color.size(); ++k) {
         const double channel = segment.change[k] * fraction + segment.from[k];
         // What truncates to a channel; compared before the conversion, which must not overflow.
         if (!(channel > -1.0 && channel < 256.0))
-            return QColor();
+            return Found::None;
         color[k] = int(channel);
     }
-    return QColor(color[0], color[1], color[2], color[3]);
+    return Found::Between;
+}
+
+QColor ColorTable::colorAt(double value, double minimum, double maximum) const
+{
+    std::array<int, 4> color;
+    switch (find(value, minimum, maximum, color)) {
+    case Found::First:
+        return first;
+    case Found::Last:
+        return last;
+    case Found::Between:
+        return QColor(color[0], color[1], color[2], color[3]);
+    case Found::None:
+        break;
+    }
+    return QColor();
+}
+
+ColorChannels ColorTable::channelsAt(double value, double minimum, double maximum) const
+{
+    std::array<int, 4> color;
+    switch (find(value, minimum, maximum, color)) {
+    case Found::First:
+        return firstChannels;
+    case Found::Last:
+        return lastChannels;
+    case Found::Between:
+        return {fractions[std::size_t(color[0])], fractions[std::size_t(color[1])],
+                fractions[std::size_t(color[2])], fractions[std::size_t(color[3])]};
+    case Found::None:
+        break;
+    }
+    return {0.0, 0.0, 0.0, 1.0};
 }
 
 } // namespace Zel3D

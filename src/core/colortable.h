@@ -11,6 +11,16 @@
 
 namespace Zel3D {
 
+/// Red, green, blue and alpha, 0 to 1.
+using ColorChannels = std::array<double, 4>;
+
+/// The channels of a colour; opaque black for an invalid one.
+inline ColorChannels channelsOf(const QColor& color)
+{
+    // Not getRgbF(), which gives nothing for an invalid colour.
+    return {color.redF(), color.greenF(), color.blueF(), color.alphaF()};
+}
+
 /// Turns a value into a colour by looking it up among the stops of a gradient.
 class VORANPLOT_EXPORT ColorTable
 {
@@ -23,6 +33,8 @@ public:
 
     bool isEmpty() const { return count == 0; }
     int getStopCount() const { return count; }
+    /// Whether no colour lets anything through.
+    bool isOpaque() const { return opaque; }
 
     /// The colour of a value, with the stops spread from minimum to maximum.
     ///
@@ -32,6 +44,9 @@ public:
     /// without stops, for a value that is not a number, beyond the last stop, and before the first stop where
     /// the continued first segment leaves the colours.
     QColor colorAt(double value, double minimum, double maximum) const;
+    /// The same colour as red, green, blue and alpha from 0 to 1, as QColor gives them; opaque black for an
+    /// invalid one.
+    ColorChannels channelsAt(double value, double minimum, double maximum) const;
 
 private:
     // Two neighbouring stops at different positions.
@@ -42,13 +57,19 @@ private:
         std::array<double, 4> from;
         std::array<double, 4> change;
     };
-    std::size_t find(double position) const;
+    /// What a value meets: an end, or whole numbers between stops, or neither.
+    enum class Found { First, Last, Between, None };
+    Found find(double value, double minimum, double maximum, std::array<int, 4>& color) const;
+    std::size_t segmentAt(double position) const;
 
     std::vector<Segment> segments;
     std::vector<double> ends; // of the segments
     QColor first;
     QColor last;
+    ColorChannels firstChannels{0.0, 0.0, 0.0, 1.0};
+    ColorChannels lastChannels{0.0, 0.0, 0.0, 1.0};
     int count = 0;
+    bool opaque = true; // an invalid colour is
 };
 
 } // namespace Zel3D

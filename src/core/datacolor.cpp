@@ -16,8 +16,13 @@ DataColor::~DataColor() = default;
 
 QColor DataColor::operator()(double /*x*/, double /*y*/, double z) const
 {
-    const Pair<double> range = plot->getLegendRange();
+    const Pair<double> range = getRange();
     return table.colorAt(z, range.first, range.second);
+}
+
+Pair<double> DataColor::getRange() const
+{
+    return plot->getLegendRange();
 }
 
 QColor DataColor::operator()(const QVector3D& p) const

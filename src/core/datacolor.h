@@ -2,6 +2,7 @@
 
 #include "core/colortable.h"
 #include "core/export.h"
+#include "core/types.h"
 
 #include <QColor>
 #include <QGradient>
@@ -36,6 +37,10 @@ public:
 
     /// Whether the gradient has no stops, so that nothing is drawn.
     bool isEmpty() const { return table.isEmpty(); }
+    /// The stops as they are looked up.
+    const ColorTable& getTable() const { return table; }
+    /// The range that the gradient spans now, asked of the plot.
+    Pair<double> getRange() const;
 
     /// Writes the id and the stops under "%0/dataColor/..." with %0 = prefix.
     void saveSettings(const QString& prefix, const QString& organization, const QString& application);

@@ -40,7 +40,20 @@ GridData::GridData(unsigned int columns, unsigned int rows) : Data(0)
 
 void GridData::setSize(unsigned int columns, unsigned int rows)
 {
+    // Of the same size: the memory stays, because asking the system for it anew costs as much as filling it.
+    const bool same = !isEmpty() && columns == this->columns() && rows == this->rows();
+    QVector<QVector<GridDataInfo>> kept;
+    std::unique_ptr<double[]> keptBlock;
+    if (same) {
+        kept.swap(grid);
+        keptBlock.swap(block);
+    }
     clear();
+    if (same) {
+        kept.swap(grid);
+        keptBlock.swap(block);
+        return;
+    }
     const std::size_t most = std::numeric_limits<std::size_t>::max() / (doublesPerNode * sizeof(double));
     constexpr auto longest = unsigned(std::numeric_limits<int>::max());
     if (columns > longest || rows > longest || (rows != 0 && columns > most / rows))

@@ -77,7 +77,8 @@ public:
     {
         return node(column, row).selectValue;
     }
-    /// Three doubles that the caller may write; calcNormals() must follow.
+    /// Three doubles that the caller may write; calcNormals() must follow. The values of a column's nodes
+    /// follow one another in memory, and so do the normals.
     double* valueVectorAt(unsigned int column, unsigned int row) { return node(column, row).value; }
     const double* valueVectorAt(unsigned int column, unsigned int row) const
     {

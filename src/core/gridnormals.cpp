@@ -53,25 +53,30 @@ void subtract(const float* a, const float* b, std::size_t count, float* differen
         difference[j] = a[j] - b[j];
 }
 
-// Adds the unit normal of the triangle spanned by two edges.
-inline void addNormal(float ax, float ay, float az, float bx, float by, float bz, float& x, float& y,
+// Adds the unit normal of the triangle spanned by two edges. Returns whether the area is too large for the
+// type that it is computed in.
+template <class Real>
+inline bool addNormal(float ax, float ay, float az, float bx, float by, float bz, float& x, float& y,
                       float& z)
 {
-    const double cx = double(ay * bz - az * by);
-    const double cy = double(az * bx - ax * bz);
-    const double cz = double(ax * by - ay * bx);
-    const double squared = cx * cx + cy * cy + cz * cz;
-    const double factor = 1.0 / std::sqrt(squared);
-    const bool usable = squared > fuzzyNull && squared <= std::numeric_limits<double>::max();
-    x += float(usable ? cx * factor : 0.0);
-    y += float(usable ? cy * factor : 0.0);
-    z += float(usable ? cz * factor : 0.0);
+    const auto cx = Real(ay * bz - az * by);
+    const auto cy = Real(az * bx - ax * bz);
+    const auto cz = Real(ax * by - ay * bx);
+    const Real squared = cx * cx + cy * cy + cz * cz;
+    const Real factor = Real(1) / std::sqrt(squared);
+    const bool tooLarge = squared > std::numeric_limits<Real>::max();
+    const bool usable = squared > Real(fuzzyNull) && squared <= std::numeric_limits<Real>::max();
+    x += float(usable ? cx * factor : Real(0));
+    y += float(usable ? cy * factor : Real(0));
+    z += float(usable ? cz * factor : Real(0));
+    return tooLarge;
 }
 
 // The normals of a column from the edges to the next (right) and from the previous column (left), and from
 // the edges between its rows: element j is the edge to row j from the row below, element j + 1 the edge
-// upwards.
-void columnNormals(const Vectors& right, const Vectors& left, const Vectors& up, std::size_t rows,
+// upwards. Returns whether an area was too large for the type.
+template <class Real>
+bool columnNormals(const Vectors& right, const Vectors& left, const Vectors& up, std::size_t rows,
                    double* normals)
 {
     const float* rx = right.x.data();
@@ -83,23 +88,25 @@ void columnNormals(const Vectors& right, const Vectors& left, const Vectors& up,
     const float* ux = up.x.data();
     const float* uy = up.y.data();
     const float* uz = up.z.data();
+    int tooLarge = 0;
     for (std::size_t j = 0; j < rows; ++j) {
         float x = 0.0F;
         float y = 0.0F;
         float z = 0.0F;
-        addNormal(rx[j], ry[j], rz[j], ux[j + 1], uy[j + 1], uz[j + 1], x, y, z);
-        addNormal(rx[j], ry[j], rz[j], ux[j], uy[j], uz[j], x, y, z);
-        addNormal(lx[j], ly[j], lz[j], ux[j], uy[j], uz[j], x, y, z);
-        addNormal(lx[j], ly[j], lz[j], ux[j + 1], uy[j + 1], uz[j + 1], x, y, z);
-        const double dx = double(x);
-        const double dy = double(y);
-        const double dz = double(z);
-        const double squared = dx * dx + dy * dy + dz * dz;
-        const double factor = squared > fuzzyNull ? 1.0 / std::sqrt(squared) : 1.0;
+        tooLarge |= int(addNormal<Real>(rx[j], ry[j], rz[j], ux[j + 1], uy[j + 1], uz[j + 1], x, y, z));
+        tooLarge |= int(addNormal<Real>(rx[j], ry[j], rz[j], ux[j], uy[j], uz[j], x, y, z));
+        tooLarge |= int(addNormal<Real>(lx[j], ly[j], lz[j], ux[j], uy[j], uz[j], x, y, z));
+        tooLarge |= int(addNormal<Real>(lx[j], ly[j], lz[j], ux[j + 1], uy[j + 1], uz[j + 1], x, y, z));
+        const auto dx = Real(x);
+        const auto dy = Real(y);
+        const auto dz = Real(z);
+        const Real squared = dx * dx + dy * dy + dz * dz;
+        const Real factor = squared > Real(fuzzyNull) ? Real(1) / std::sqrt(squared) : Real(1);
         normals[3 * j] = double(float(dx * factor));
         normals[3 * j + 1] = double(float(dy * factor));
         normals[3 * j + 2] = double(float(dz * factor));
     }
+    return tooLarge != 0;
 }
 
 } // namespace
@@ -133,7 +140,10 @@ bool gridNormals(const double* values, double* normals, std::size_t columns, std
         subtract(current.x.data() + 1, current.x.data(), rows - 1, up.x.data() + 1);
         subtract(current.y.data() + 1, current.y.data(), rows - 1, up.y.data() + 1);
         subtract(current.z.data() + 1, current.z.data(), rows - 1, up.z.data() + 1);
-        columnNormals(right, left, up, rows, normals + 3 * i * rows);
+        // Single precision is twice as fast; only very large grids need the range of a double.
+        double* column = normals + 3 * i * rows;
+        if (columnNormals<float>(right, left, up, rows, column))
+            columnNormals<double>(right, left, up, rows, column);
         std::swap(left, right);
         std::swap(current, next);
     }

@@ -42,6 +42,26 @@ void SpectrumData::setData(Map&& data)
     computeBox();
 }
 
+bool SpectrumData::setHeights(const Map& data)
+{
+    const auto sameKey = [](const auto& a, const auto& b) { return a.first == b.first; };
+    const auto samePoints = [&](const auto& a, const auto& b) {
+        return sameKey(a, b) && a.second.size() == b.second.size() &&
+               std::equal(a.second.begin(), a.second.end(), b.second.begin(), sameKey);
+    };
+    if (data.size() != spectrum.size() || !std::equal(data.begin(), data.end(), spectrum.begin(), samePoints))
+        return false;
+    auto from = data.begin();
+    for (auto& values : spectrum) {
+        auto height = from->second.begin();
+        for (auto& value : values.second)
+            value.second = (height++)->second;
+        ++from;
+    }
+    computeBox();
+    return true;
+}
+
 void SpectrumData::computeBox()
 {
     Range outer;

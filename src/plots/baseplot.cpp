@@ -176,6 +176,7 @@ void BasePlot::drawData()
         glEnable(GL_NORMALIZE);
     for (const DisplayList& list : drawingLists)
         list.call();
+    drawArrays();
 }
 
 void BasePlot::drawCoordinateSystem()
@@ -299,6 +300,8 @@ void BasePlot::createAdditions()
 void BasePlot::calculateHull() {}
 
 void BasePlot::createData() {}
+
+void BasePlot::drawArrays() {}
 
 void BasePlot::createAddition(Addition& /*addition*/) {}
 

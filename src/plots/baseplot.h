@@ -345,6 +345,9 @@ protected:
     /// Adds the styles of the subclass with addStyleAction(). The constructor of each subclass calls this,
     /// createPlotStyleToolBar() and createContextMenu(), in that order.
     virtual void createPlotStyleActions() = 0;
+    /// Draws what the subclass keeps out of the display lists, behind them; here nothing. The state is put
+    /// back afterwards.
+    virtual void drawArrays();
 
 signals:
     void plotStyleChanged(int style);

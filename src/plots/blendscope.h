@@ -30,4 +30,26 @@ private:
     float lineWidth = 1.0F;
 };
 
+/// Switches blending off for a scope in which all that is drawn is filled and opaque: the picture is the
+/// same, and a software renderer need not read what it writes over.
+class OpaqueScope
+{
+public:
+    explicit OpaqueScope(bool opaque) : active(opaque && glIsEnabled(GL_BLEND) == GL_TRUE)
+    {
+        if (active)
+            glDisable(GL_BLEND);
+    }
+    ~OpaqueScope()
+    {
+        if (active)
+            glEnable(GL_BLEND);
+    }
+    OpaqueScope(const OpaqueScope&) = delete;
+    OpaqueScope& operator=(const OpaqueScope&) = delete;
+
+private:
+    bool active;
+};
+
 } // namespace Zel3D

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/datacolor.h"
+#include "core/colorlookup.h"
 #include "core/griddata.h"
 
 #include <array>
@@ -13,72 +13,48 @@ namespace Zel3D {
 class ColumnColors
 {
 public:
-    using Color = std::array<double, 4>; ///< red, green, blue, alpha, 0 to 1
-
-    /// Looks up every \a rowStep -th node of a grid for a scope; behind it nothing is kept, because the grid
-    /// and the colouring may change.
-    class Use
+    /// Looks up every \a rowStep -th node. The grid and the colouring must outlive the object and stay as
+    /// they are.
+    ColumnColors(const GridData& grid, const DataColor& coloring, int rowStep)
+        : data(grid), color(coloring), step(rowStep)
     {
-    public:
-        Use(ColumnColors& colors, const GridData& grid, const DataColor& coloring, int rowStep) : used(colors)
-        {
-            used.data = &grid;
-            used.color = &coloring;
-            used.step = rowStep;
+    }
+
+    /// The colours of a column by row. They hold until the column after the next is asked for.
+    const ColorChannels* column(int index)
+    {
+        for (const Column& entry : columns) {
+            if (entry.index == index)
+                return entry.colors.data();
         }
-        ~Use() { used = ColumnColors(); }
-        Use(const Use&) = delete;
-        Use& operator=(const Use&) = delete;
-
-    private:
-        ColumnColors& used;
-    };
-
-    /// Whether a use is in progress; only then at() can be asked.
-    bool isReady() const { return data && color; }
-
-    const Color& at(int column, int row)
-    {
-        // Asked for each node that a strip sends, the two columns in turn: no division, no state to flip.
-        if (columns[0].index == column)
-            return columns[0].colors[std::size_t(row)];
-        if (columns[1].index != column)
-            lookUp(column);
-        const Column& entry = columns[columns[1].index == column ? 1 : 0];
-        return entry.colors[std::size_t(row)];
+        // Strips move on from column to column: the one looked up longer ago is done with.
+        newest = 1 - newest;
+        lookUp(columns[newest], index);
+        return columns[newest].colors.data();
     }
-
-    static Color channels(const QColor& c)
-    {
-        Color result;
-        c.getRgbF(&result[0], &result[1], &result[2], &result[3]);
-        return result;
-    }
+    /// Whether it is known that no colour lets anything through.
+    bool isOpaque() const { return color.isOpaque(); }
 
 private:
     struct Column
     {
         int index = -1;
-        std::vector<Color> colors;
+        std::vector<ColorChannels> colors;
     };
 
-    void lookUp(int column)
+    void lookUp(Column& entry, int index) const
     {
-        // Strips move on from column to column: the one looked up longer ago is done with.
-        newest = 1 - newest;
-        Column& entry = columns[newest];
-        entry.index = column;
-        const auto rows = int(data->rows());
+        entry.index = index;
+        const auto rows = int(data.rows());
         entry.colors.resize(std::size_t(rows));
         // In single precision, as the box is: the highest node takes the last colour.
         for (int row = 0; row < rows; row += step)
-            entry.colors[std::size_t(row)] =
-                channels((*color)(data->valueAt(unsigned(column), unsigned(row))));
+            entry.colors[std::size_t(row)] = color(data.valueAt(unsigned(index), unsigned(row)));
     }
 
-    const GridData* data = nullptr;
-    const DataColor* color = nullptr;
-    int step = 1;
+    const GridData& data;
+    const ColorLookup color;
+    int step;
     std::array<Column, 2> columns;
     std::size_t newest = 0;
 };

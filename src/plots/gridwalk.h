@@ -23,15 +23,18 @@ public:
     {
     }
 
-    /// The surface: one GL_TRIANGLE_STRIP a pair of columns. \a node sends a node given by column and row.
-    template <class Node>
-    void strips(const Node& node) const
+    /// The surface: one GL_TRIANGLE_STRIP a pair of columns. \a sender makes, for a column, what sends a node
+    /// of it given by row: sender(column)(row).
+    template <class Sender>
+    void strips(const Sender& sender) const
     {
         for (int i = 0; i < columns - step; i += step) {
+            const auto left = sender(i);
+            const auto right = sender(i + step);
             if (whole)
-                strip(i, node);
+                strip(left, right);
             else
-                brokenStrip(i, node);
+                brokenStrip(i, left, right);
         }
     }
 
@@ -73,22 +76,22 @@ private:
     }
 
     template <class Node>
-    void strip(int i, const Node& node) const
+    void strip(const Node& left, const Node& right) const
     {
         glBegin(GL_TRIANGLE_STRIP);
-        node(i, 0);
-        node(i + step, 0);
+        left(0);
+        right(0);
         for (int j = 0; j < rows - step;) {
             j += step;
-            node(i, j);
-            node(i + step, j);
+            left(j);
+            right(j);
         }
         glEnd();
     }
 
     /// As strip(), in the pieces whose nodes are all there; a piece of one pair has no area and is not sent.
     template <class Node>
-    void brokenStrip(int i, const Node& node) const
+    void brokenStrip(int i, const Node& left, const Node& right) const
     {
         const int last = (rows - 1) / step * step;
         const auto pair = [&](int j) { return j <= last && present(i, j) && present(i + step, j); };
@@ -97,8 +100,8 @@ private:
                 continue;
             glBegin(GL_TRIANGLE_STRIP);
             for (; pair(j); j += step) {
-                node(i, j);
-                node(i + step, j);
+                left(j);
+                right(j);
             }
             glEnd();
         }

@@ -5,6 +5,7 @@
 #include "core/celldata.h"
 #include "core/griddata.h"
 #include "plots/datacheck.h"
+#include "plots/gridarrays.h"
 #include "settings/plotsettingsdialog.h"
 
 #include <QCoreApplication>
@@ -29,7 +30,8 @@ SHPlot::SHPlot(const QString& name, const QString& organizationName, const QStri
                QWidget* parent, const QGLWidget* shareWidget, Qt::WindowFlags flags)
     : BasePlot(name, organizationName, applicationName, parent, shareWidget, flags),
       gridData(std::make_unique<GridData>()),
-      cellData(std::make_unique<CellData>())
+      cellData(std::make_unique<CellData>()),
+      gridArrays(std::make_unique<GridArrays>())
 {
     setAttribute(Qt::WA_AlwaysShowToolTips);
     setData(gridData.get());
@@ -59,8 +61,11 @@ bool SHPlot::load(Container* container, const QString& fault, const Fill& fill)
     }
     const BusyScope rebuilding(*this);
     clearPickPoints();
-    gridData->clear();
+    // A grid that is filled clears itself, and keeps its memory if the size stays.
+    if (container->getDataType() != GridType)
+        gridData->clear();
     cellData->clear();
+    cellData->squeeze();
     givenVertices.clear();
     setData(container);
     applyLogarithmicData();
@@ -151,6 +156,16 @@ bool SHPlot::loadFromData(const QVector<QVector3D>& vertices, const QVector<QVec
     });
 }
 
+bool SHPlot::setDataChanging(bool on)
+{
+    if (dataChanging == on)
+        return false;
+    dataChanging = on;
+    markDataChanged();
+    emit dataChangingChanged(on);
+    return true;
+}
+
 void SHPlot::updateDataType(int type)
 {
     if (getData()->getDataType() == type)
@@ -172,8 +187,10 @@ void SHPlot::clearData()
     clearPickPoints();
     gridData->clear();
     cellData->clear();
+    cellData->squeeze();
     givenVertices.clear();
     removeDataList();
+    gridArrays->clear();
     updateNormals();
     updateSelection();
     createCoordinateSystem();

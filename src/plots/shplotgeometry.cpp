@@ -1,10 +1,13 @@
 // What the surface plot sends for each plot style: surfaces, meshes, markers, projections and normals.
 
 #include "core/celldata.h"
+#include "core/datacolor.h"
 #include "core/griddata.h"
 #include "plots/arrowaddition.h"
 #include "plots/baseplotsettings.h"
 #include "plots/blendscope.h"
+#include "plots/columncolors.h"
+#include "plots/gridarrays.h"
 #include "plots/gridwalk.h"
 #include "plots/shplot.h"
 #include "scene/basedraw.h"
@@ -38,6 +41,11 @@ void sendColor(const QColor& color)
     glColor4d(color.redF(), color.greenF(), color.blueF(), color.alphaF());
 }
 
+void sendColor(const ColorChannels& color)
+{
+    glColor4d(color[0], color[1], color[2], color[3]);
+}
+
 /// Not a mode that OpenGL knows: it rejects the call and the polygon mode in force stays.
 constexpr unsigned int keptPolygonMode = 7;
 
@@ -50,6 +58,8 @@ int SHPlot::nodeStep() const
 
 void SHPlot::createData()
 {
+    if (!areArraysWanted())
+        gridArrays->clear();
     if (getData() == gridData.get())
         createGridData();
     else if (getData() == cellData.get())
@@ -88,10 +98,14 @@ void SHPlot::createGridData()
 {
     if (!canDrawData())
         return;
-    const ColumnColors::Use lookUp(gridColors, *gridData, *getDataColor(), nodeStep());
     createGridViewProjection();
     if (drawMarkerStyle())
         return;
+    if (areArraysWanted()) {
+        ColumnColors colors(*gridData, *getDataColor(), nodeStep());
+        gridArrays->fill(*gridData, colors, nodeStep());
+        return;
+    }
     const int style = getSettings().getStyle();
     const GLMode offset(GL_POLYGON_OFFSET_FILL, true, false);
     glPolygonOffset(float(getSettings().getPolygonOffset()), 1.0F);
@@ -103,6 +117,24 @@ void SHPlot::createGridData()
         drawGridMesh(nodeStep());
 }
 
+bool SHPlot::areArraysWanted() const
+{
+    return dataChanging && canDrawData() && getData() == gridData.get() && !gridData->isEmpty() &&
+           !gridData->hasMissing() && getSettings().getStyle() == Filled;
+}
+
+// With the state that the list of the surface would set.
+void SHPlot::drawArrays()
+{
+    if (gridArrays->isEmpty())
+        return;
+    const GLMode offset(GL_POLYGON_OFFSET_FILL, true, false);
+    glPolygonOffset(float(getSettings().getPolygonOffset()), 1.0F);
+    const BlendScope blending;
+    const OpaqueScope unblended(canDrawData() && ColorLookup(*getDataColor()).isOpaque());
+    gridArrays->draw();
+}
+
 void SHPlot::drawGridSurface(int style)
 {
     glPolygonMode(GL_FRONT_AND_BACK, keptPolygonMode);
@@ -110,10 +142,18 @@ void SHPlot::drawGridSurface(int style)
     if (keep)
         sendColor(getBackgroundColor());
     const GridData& grid = *gridData;
-    GridWalk(grid, nodeStep()).strips([&](int column, int row) {
-        setGridColorFromVertex(column, row, keep);
-        glNormal3dv(grid.normalVectorAt(unsigned(column), unsigned(row)));
-        glVertex3dv(grid.valueVectorAt(unsigned(column), unsigned(row)));
+    ColumnColors colors(grid, *getDataColor(), nodeStep());
+    const OpaqueScope unblended(keep ? getBackgroundColor().alpha() == 255 : colors.isOpaque());
+    GridWalk(grid, nodeStep()).strips([&](int column) {
+        const ColorChannels* color = keep ? nullptr : colors.column(column);
+        const double* normal = grid.normalVectorAt(unsigned(column), 0);
+        const double* value = grid.valueVectorAt(unsigned(column), 0);
+        return [=](int row) {
+            if (color)
+                sendColor(color[row]);
+            glNormal3dv(normal + 3 * row);
+            glVertex3dv(value + 3 * row);
+        };
     });
 }
 
@@ -136,14 +176,8 @@ void SHPlot::drawGridMesh(int step)
 
 void SHPlot::setGridColorFromVertex(int column, int row, bool keep)
 {
-    if (keep)
-        return;
-    if (!gridColors.isReady()) {
+    if (!keep)
         sendColor((*getDataColor())(gridData->valueAt(unsigned(column), unsigned(row))));
-        return;
-    }
-    const ColumnColors::Color& color = gridColors.at(column, row);
-    glColor4d(color[0], color[1], color[2], color[3]);
 }
 
 void SHPlot::createGridViewProjection()
@@ -155,10 +189,15 @@ void SHPlot::createGridViewProjection()
     const double height = getViewProjectionZ();
     const GridData& grid = *gridData;
     glNormal3d(0.0, 0.0, 1.0);
-    GridWalk(grid, nodeStep()).strips([&](int column, int row) {
-        setGridColorFromVertex(column, row, false);
-        const double* p = grid.valueVectorAt(unsigned(column), unsigned(row));
-        glVertex3d(p[0], p[1], height);
+    ColumnColors colors(grid, *getDataColor(), nodeStep());
+    const OpaqueScope unblended(colors.isOpaque());
+    GridWalk(grid, nodeStep()).strips([&](int column) {
+        const ColorChannels* color = colors.column(column);
+        const double* value = grid.valueVectorAt(unsigned(column), 0);
+        return [=](int row) {
+            sendColor(color[row]);
+            glVertex3d(value[3 * row], value[3 * row + 1], height);
+        };
     });
 }
 
@@ -234,12 +273,27 @@ void SHPlot::createCellData()
         drawCellMesh();
 }
 
+// Each vertex once, although several cells send it.
+std::vector<ColorChannels> SHPlot::vertexColors(const ColorLookup& color) const
+{
+    const QVector<QVector3D>& vertices = cellData->getVertices();
+    std::vector<ColorChannels> colors(std::size_t(vertices.size()));
+    for (std::size_t i = 0; i < colors.size(); ++i) {
+        if (!cellData->hasMissing() || !cellData->isMissing(unsigned(i)))
+            colors[i] = color(vertices.at(int(i)));
+    }
+    return colors;
+}
+
 void SHPlot::drawCellSurface(int style)
 {
     glPolygonMode(GL_FRONT_AND_BACK, keptPolygonMode);
     const bool keep = style == HiddenLine;
     if (keep)
         sendColor(getBackgroundColor());
+    const ColorLookup color(*getDataColor());
+    const OpaqueScope unblended(keep ? getBackgroundColor().alpha() == 255 : color.isOpaque());
+    const std::vector<ColorChannels> colors = keep ? std::vector<ColorChannels>() : vertexColors(color);
     for (const QVector<unsigned int>& cell : cellData->getCells()) {
         if (!cellIsWhole(cell))
             continue;
@@ -248,7 +302,8 @@ void SHPlot::drawCellSurface(int style)
             const auto vertex = int(index);
             const QVector3D& p = cellData->getVertices().at(vertex);
             const QVector3D& n = cellData->getVertexNormals().at(vertex);
-            setCellColorFromVertex(vertex, keep);
+            if (!keep)
+                sendColor(colors[index]);
             // The normal comes after the vertex and takes effect for the following corner.
             glVertex3d(double(p.x()), double(p.y()), double(p.z()));
             glNormal3d(double(n.x()), double(n.y()), double(n.z()));
@@ -285,13 +340,15 @@ void SHPlot::createCellViewProjection()
     const BlendScope blending;
     glPolygonMode(GL_FRONT_AND_BACK, keptPolygonMode);
     const double height = getViewProjectionZ();
+    const ColorLookup color(*getDataColor());
+    const OpaqueScope unblended(color.isOpaque());
     for (const QVector<unsigned int>& cell : cellData->getCells()) {
         if (!cellIsWhole(cell))
             continue;
         glBegin(GL_POLYGON);
         for (unsigned int index : cell) {
             const QVector3D& p = cellData->getVertices().at(int(index));
-            setCellColorFromVertex(int(index), false);
+            sendColor(color(p));
             glVertex3d(double(p.x()), double(p.y()), height);
             glNormal3d(0.0, 0.0, 1.0);
         }

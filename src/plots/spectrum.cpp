@@ -117,8 +117,14 @@ bool Spectrum::loadFromData(const std::map<double, std::map<double, double>>& sp
     SpectrumData::Map loaded;
     ValueXYZ<double> origin{0.0, 0.0, 0.0};
     int lost = 0;
+    const std::array<bool, 3>& directions = getLogarithmicData();
+    const ValueXYZ<double>& held = getDataOrigin();
+    const bool plain = !directions[0] && !directions[1] && !directions[2] && !isDataCentred() &&
+                       held.x == 0.0 && held.y == 0.0;
+    const bool refilled =
+        fault.isEmpty() && plain && axis == spectrumData->getAxis() && spectrumData->setHeights(spectra);
     // Copied before anything is cleared: memory may run out, and the map may be the plot's own.
-    if (fault.isEmpty()) {
+    if (fault.isEmpty() && !refilled) {
         try {
             loaded = toExponents(spectra, axis, lost);
             if (isDataCentred())
@@ -133,13 +139,15 @@ bool Spectrum::loadFromData(const std::map<double, std::map<double, double>>& sp
     }
     const BusyScope rebuilding(*this);
     clearPickPoints();
-    spectrumData->clear();
     setData(spectrumData.get());
     applyLogarithmicData();
     setDataOrigin(origin);
-    spectrumData->setAxis(axis);
-    spectrumData->setData(std::move(loaded));
-    warnOfLostValues(lost);
+    if (!refilled) {
+        spectrumData->clear();
+        spectrumData->setAxis(axis);
+        spectrumData->setData(std::move(loaded));
+        warnOfLostValues(lost);
+    }
     if (spectrumData->isEmpty())
         setHull(Parallelepiped());
     updateData();

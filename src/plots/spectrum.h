@@ -120,8 +120,6 @@ private:
     void withPickMarker(const Use& use);
     int countPickPoints() const;
     void drawLine(Entry spectrum);
-    void sendColor(const QVector3D& p) const;
-    void sendPoint(const QVector3D& p) const;
     std::vector<double> stopLevels() const;
 
     std::unique_ptr<SpectrumData> spectrumData;

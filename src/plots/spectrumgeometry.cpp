@@ -1,5 +1,6 @@
 // What the spectrum plot sends for each plot style: markers, lines, sheets and their frames.
 
+#include "core/colorlookup.h"
 #include "core/datacolor.h"
 #include "core/gradientstops.h"
 #include "core/spectrumbands.h"
@@ -13,12 +14,62 @@
 #include "view/opengl.h"
 
 #include <algorithm>
+#include <array>
 
 namespace Zel3D {
 
 namespace {
 
 enum PlotStyle { CustomMarkers = -1, NoPlot = 0, Points = 1, Lines = 2, Filled = 3, FilledAndFrame = 4 };
+
+void sendVertex(const QVector3D& p)
+{
+    glVertex3d(double(p.x()), double(p.y()), double(p.z()));
+}
+
+/// A point in its data colour.
+void sendPoint(const ColorLookup& color, const QVector3D& p)
+{
+    const ColorChannels c = color(p);
+    glColor4d(c[0], c[1], c[2], c[3]);
+    sendVertex(p);
+}
+
+/// The colours of the heights met last: neighbouring bands share most of theirs.
+class RecentColors
+{
+public:
+    explicit RecentColors(const DataColor& coloring) : color(coloring) {}
+
+    const ColorChannels& at(const QVector3D& p)
+    {
+        if (color.isByHeight()) {
+            for (std::size_t i = 0; i < known; ++i) {
+                if (heights[i] == p.z())
+                    return colors[i];
+            }
+        }
+        oldest = (oldest + 1) % heights.size();
+        known = std::max(known, oldest + 1);
+        heights[oldest] = p.z();
+        colors[oldest] = color(p);
+        return colors[oldest];
+    }
+
+private:
+    const ColorLookup color;
+    std::array<float, 4> heights{};
+    std::array<ColorChannels, 4> colors{};
+    std::size_t known = 0;
+    std::size_t oldest = 3;
+};
+
+void sendPoint(RecentColors& colors, const QVector3D& p)
+{
+    const ColorChannels& c = colors.at(p);
+    glColor4d(c[0], c[1], c[2], c[3]);
+    sendVertex(p);
+}
 
 /// The levels at which the colour jumps, because several stops lie there: a band takes the colours of its own
 /// side.
@@ -90,18 +141,6 @@ void Spectrum::visitPairs(const Values& values, const Visit& visit) const
     }
 }
 
-void Spectrum::sendColor(const QVector3D& p) const
-{
-    const QColor color = (*getDataColor())(p);
-    glColor4d(color.redF(), color.greenF(), color.blueF(), color.alphaF());
-}
-
-void Spectrum::sendPoint(const QVector3D& p) const
-{
-    sendColor(p);
-    glVertex3d(double(p.x()), double(p.y()), double(p.z()));
-}
-
 void Spectrum::createData()
 {
     if (getData() && getData() == spectrumData.get())
@@ -150,6 +189,9 @@ void Spectrum::createSpectrumData()
         for (Entry spectrum = spectra.begin(); spectrum != spectra.end(); ++spectrum)
             drawLine(spectrum);
     } else if (style == Filled || style == FilledAndFrame) {
+        // A smooth line, as the frame and an area without height are, is blended at its edges.
+        const bool linesBlend = style == FilledAndFrame || getSettings().getMesh().isSmooth();
+        const OpaqueScope unblended(!linesBlend && ColorLookup(*getDataColor()).isOpaque());
         const bool oneColor = gradientStops(getDataColor()->getGradient()).size() == 1;
         for (const SpectrumOrder order : {Ascending, Descending}) {
             if (oneColor)
@@ -164,6 +206,7 @@ void Spectrum::drawLine(Entry spectrum)
 {
     const auto& [outer, values] = *spectrum;
     const int step = pointStep();
+    const ColorLookup color(*getDataColor());
     bool drawing = false;
     const auto setDrawing = [&drawing](bool on) {
         if (on && !drawing)
@@ -175,7 +218,7 @@ void Spectrum::drawLine(Entry spectrum)
     for (auto point = values.begin(); point != values.end(); advance(point, values, step)) {
         setDrawing(std::isfinite(point->second));
         if (drawing)
-            sendPoint(place(outer, point->first, point->second));
+            sendPoint(color, place(outer, point->first, point->second));
     }
     setDrawing(false);
 }
@@ -219,7 +262,10 @@ void Spectrum::drawGradientSpectrum(SpectrumOrder order)
 void Spectrum::drawOneSpectrum(Entry spectrum)
 {
     const double outer = spectrum->first;
-    const auto send = [&](double position, double height) { sendPoint(place(outer, position, height)); };
+    RecentColors color(*getDataColor());
+    const auto send = [&](double position, double height) {
+        sendPoint(color, place(outer, position, height));
+    };
     visitPairs(spectrum->second, [&](const CurvePoint& from, const CurvePoint& to) {
         if (!SpectrumBands::crosses(from, to)) {
             glBegin(GL_POLYGON);
@@ -258,6 +304,7 @@ std::vector<double> Spectrum::stopLevels() const
 void Spectrum::drawOneGradientSpectrum(Entry spectrum)
 {
     const double outer = spectrum->first;
+    RecentColors color(*getDataColor());
     const std::vector<double> levels = stopLevels();
     const SpectrumBands bands(levels);
     const Jumps jumps(levels);
@@ -267,8 +314,8 @@ void Spectrum::drawOneGradientSpectrum(Entry spectrum)
     visitPairs(spectrum->second, [&](const CurvePoint& from, const CurvePoint& to) {
         if (from.height == 0.0 && to.height == 0.0) {
             glBegin(GL_LINES);
-            sendPoint(place(outer, from.position, 0.0));
-            sendPoint(place(outer, to.position, 0.0));
+            sendPoint(color, place(outer, from.position, 0.0));
+            sendPoint(color, place(outer, to.position, 0.0));
             glEnd();
             return;
         }
@@ -276,7 +323,7 @@ void Spectrum::drawOneGradientSpectrum(Entry spectrum)
             glBegin(GL_POLYGON);
             for (std::size_t i = 0; i < band.count; ++i) {
                 const CurvePoint& corner = band.corners[i];
-                sendPoint(place(outer, corner.position, double(jumps.inside(band, corner.height))));
+                sendPoint(color, place(outer, corner.position, double(jumps.inside(band, corner.height))));
             }
             glEnd();
         });
@@ -285,9 +332,10 @@ void Spectrum::drawOneGradientSpectrum(Entry spectrum)
 
 void Spectrum::drawPolygon(const QList<QVector3D>& points)
 {
+    const ColorLookup color(*getDataColor());
     glBegin(GL_POLYGON);
     for (const QVector3D& p : points)
-        sendPoint(p);
+        sendPoint(color, p);
     glEnd();
 }
 
@@ -295,8 +343,7 @@ void Spectrum::drawSpectrumFrame(Entry spectrum)
 {
     const double outer = spectrum->first;
     const auto send = [&](const CurvePoint& point) {
-        const QVector3D p = place(outer, point.position, point.height);
-        glVertex3d(double(p.x()), double(p.y()), double(p.z()));
+        sendVertex(place(outer, point.position, point.height));
     };
     glColor4d(0.0, 0.0, 0.0, 1.0);
     glBegin(GL_LINES);

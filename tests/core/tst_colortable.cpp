@@ -82,6 +82,8 @@ void TestColorTable::lookup()
     QFETCH(double, maximum);
     const ColorTable table(stops);
     QTEST(table.colorAt(value, minimum, maximum), "color");
+    QFETCH(QColor, color);
+    QCOMPARE(table.channelsAt(value, minimum, maximum), channelsOf(color));
     QCOMPARE(table.isEmpty(), stops.isEmpty());
     QCOMPARE(table.getStopCount(), stops.size());
 }

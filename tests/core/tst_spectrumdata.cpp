@@ -17,6 +17,8 @@ private slots:
     void box_data();
     void box();
     void axisAndClearing();
+    void heightsOverTheSamePositions_data();
+    void heightsOverTheSamePositions();
 };
 
 void TestSpectrumData::box_data()
@@ -77,6 +79,30 @@ void TestSpectrumData::axisAndClearing()
     QCOMPARE(data.getMinimum(), QVector3D());
     QCOMPARE(data.getMaximum(), QVector3D());
     QCOMPARE(data.getAxis(), YAxis);
+}
+
+void TestSpectrumData::heightsOverTheSamePositions_data()
+{
+    using Map = SpectrumData::Map;
+    QTest::addColumn<Map>("heights");
+    QTest::addColumn<bool>("taken");
+    QTest::newRow("the same") << Map{{1, {{2, 9}, {3, -9}}}, {4, {{5, 6}}}} << true;
+    QTest::newRow("another point") << Map{{1, {{2, 9}, {3.5, -9}}}, {4, {{5, 6}}}} << false;
+    QTest::newRow("another spectrum") << Map{{1, {{2, 9}, {3, -9}}}, {5, {{5, 6}}}} << false;
+    QTest::newRow("a point more") << Map{{1, {{2, 9}, {3, -9}}}, {4, {{5, 6}, {6, 1}}}} << false;
+    QTest::newRow("a spectrum less") << Map{{1, {{2, 9}, {3, -9}}}} << false;
+}
+
+void TestSpectrumData::heightsOverTheSamePositions()
+{
+    QFETCH(SpectrumData::Map, heights);
+    QFETCH(bool, taken);
+    const SpectrumData::Map before{{1, {{2, 0}, {3, 1}}}, {4, {{5, 2}}}};
+    SpectrumData data;
+    data.setData(before);
+    QCOMPARE(data.setHeights(heights), taken);
+    QVERIFY(data.getSpectrum() == (taken ? heights : before));
+    QCOMPARE(data.getMaximum().z(), taken ? 9.0F : 2.0F);
 }
 
 int main(int argc, char* argv[])

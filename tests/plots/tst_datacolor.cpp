@@ -1,6 +1,8 @@
 #include "core/datacolor.h"
+#include "harness/glrecorder.h"
 #include "harness/harness.h"
 #include "plotfixture.h"
+#include "view/opengl.h"
 
 #include <QSettings>
 #include <QtTest>
@@ -15,6 +17,7 @@ private slots:
     void init() { harness::clearStore(); }
     void rangeIsAskedOfThePlotAtEveryLookUp_data();
     void rangeIsAskedOfThePlotAtEveryLookUp();
+    void subclassIsAskedForEveryColour();
     void storeLayout();
     void loadDropsWhatWasThere();
     void plotDrawsWithTheLoadedColours();
@@ -47,6 +50,30 @@ void TestDataColor::rangeIsAskedOfThePlotAtEveryLookUp()
     plot.setGradientRange({first, second});
     QCOMPARE(color(0.0, 0.0, 5.0), ofFive);
     QCOMPARE(color(QVector3D(9.0F, -9.0F, 5.0F)), ofFive);
+}
+
+void TestDataColor::subclassIsAskedForEveryColour()
+{
+    class ByColumn : public DataColor
+    {
+    public:
+        using DataColor::DataColor;
+        using DataColor::operator();
+        QColor operator()(double x, double /*y*/, double /*z*/) const override
+        {
+            return x < 0.5 ? QColor(Qt::red) : QColor(Qt::blue);
+        }
+    };
+    Plot plot;
+    plot.setDataColor(new ByColumn(&plot, "column", ramp()));
+    plot.setPlotStyle(4);
+    QVERIFY(harness::show(plot, 80, 80));
+    GLRecorder recorder;
+    QVERIFY(Heights(2, 2, [](int, int j) { return 10.0 * j; }).into(plot));
+    const QVector<GLRecorder::Primitive> strips = recorder.primitives(GL_TRIANGLE_STRIP);
+    QCOMPARE(strips.size(), 1);
+    for (const GLRecorder::Vertex& vertex : strips[0].vertices)
+        QCOMPARE(vertex.color[2], vertex.position[0]);
 }
 
 void TestDataColor::storeLayout()

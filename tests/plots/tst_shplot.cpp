@@ -4,6 +4,7 @@
 #include "harness/harness.h"
 #include "plotfixture.h"
 #include "plots/dotaddition.h"
+#include "view/light.h"
 
 #include <GL/gl.h>
 
@@ -106,6 +107,10 @@ private slots:
     void meshLines();
     void stateInTheList_data();
     void stateInTheList();
+    void opaqueSurfacesAreNotBlended_data();
+    void opaqueSurfacesAreNotBlended();
+    void changingDataMakeTheSamePicture_data();
+    void changingDataMakeTheSamePicture();
     void projections_data();
     void projections();
     void histogramHasABarANode();
@@ -338,6 +343,118 @@ void TestSHPlot::stateInTheList()
     QVERIFY(at(line("glDisable", {GL_POLYGON_OFFSET_FILL})) > back);
     plot.setPlotStyle(2);
     QVERIFY(!calls(plot).contains(line("glPolygonMode", {GL_FRONT_AND_BACK, 7})));
+}
+
+void TestSHPlot::opaqueSurfacesAreNotBlended_data()
+{
+    QTest::addColumn<int>("style");
+    QTest::addColumn<QColor>("background");
+    QTest::addColumn<QColor>("lowest");
+    QTest::addColumn<bool>("cells");
+    QTest::addColumn<bool>("blended");
+    const QColor glass(0, 0, 0, 100);
+    QTest::newRow("grid") << 5 << QColor(Qt::white) << QColor(Qt::black) << false << false;
+    QTest::newRow("cells") << 5 << QColor(Qt::white) << QColor(Qt::black) << true << false;
+    QTest::newRow("translucent grid") << 5 << QColor(Qt::white) << glass << false << true;
+    QTest::newRow("translucent cells") << 5 << QColor(Qt::white) << glass << true << true;
+    QTest::newRow("hidden line") << 3 << QColor(Qt::white) << glass << false << false;
+    QTest::newRow("hidden line, glass") << 3 << glass << QColor(Qt::black) << false << true;
+}
+
+void TestSHPlot::opaqueSurfacesAreNotBlended()
+{
+    QFETCH(int, style);
+    QFETCH(QColor, background);
+    QFETCH(QColor, lowest);
+    QFETCH(bool, cells);
+    QFETCH(bool, blended);
+    Plot plot;
+    QLinearGradient gradient;
+    gradient.setColorAt(0.0, lowest);
+    gradient.setColorAt(1.0, Qt::red);
+    plot.setGradient("tested", gradient);
+    plot.setBackgroundColor(background);
+    plot.setPlotStyle(style);
+    QVERIFY(harness::show(plot, 80, 80));
+    QVERIFY(cells ? plot.loadFromData(roof, roofCells, 1.0, 1.0) : Heights(4, 3, plane).into(plot));
+    const QStringList all = calls(plot);
+    const int start = all.indexOf(QRegularExpression("glNewList.*"));
+    const QStringList list = all.mid(start, all.indexOf("glEndList()") - start);
+    const int off = list.indexOf(line("glDisable", {GL_BLEND}));
+    QCOMPARE(off < 0, blended);
+    if (blended)
+        return;
+    QVERIFY(off < list.indexOf(QRegularExpression("glBegin.*")));
+    // The mesh is drawn behind it, and its smooth lines need it.
+    const QString mesh = line("glBegin", {double(cells ? GL_LINE_LOOP : GL_LINE_STRIP)});
+    const int on = list.indexOf(line("glEnable", {GL_BLEND}), off);
+    QVERIFY(on > off);
+    QVERIFY(on < list.indexOf(mesh));
+}
+
+void TestSHPlot::changingDataMakeTheSamePicture_data()
+{
+    QTest::addColumn<int>("style");
+    QTest::addColumn<int>("step");
+    QTest::addColumn<bool>("hole");
+    QTest::addColumn<bool>("glass");
+    QTest::addColumn<bool>("recorded");
+    QTest::newRow("filled") << 4 << 1 << false << false << false;
+    QTest::newRow("every third node") << 4 << 3 << false << false << false;
+    QTest::newRow("translucent") << 4 << 1 << false << true << false;
+    QTest::newRow("thinned to nothing") << 4 << 50 << false << false << false;
+    QTest::newRow("with a hole: a list") << 4 << 1 << true << false << true;
+    QTest::newRow("with a mesh: a list") << 5 << 1 << false << false << true;
+    QTest::newRow("markers: a list") << 6 << 1 << false << false << true;
+}
+
+void TestSHPlot::changingDataMakeTheSamePicture()
+{
+    QFETCH(int, style);
+    QFETCH(int, step);
+    QFETCH(bool, hole);
+    QFETCH(bool, glass);
+    QFETCH(bool, recorded);
+    const auto prepare = [&](Plot& plot) {
+        QLinearGradient gradient;
+        gradient.setColorAt(0.0, QColor(20, 40, 60, glass ? 120 : 255));
+        gradient.setColorAt(1.0, Qt::red);
+        plot.setGradient("tested", gradient);
+        plot.setPlotStyle(style);
+        plot.setResolution(step);
+        plot.setRotation({40.0, 0.0, 20.0});
+        plot.setLighting(true);
+        plot.getLights().at(1)->setOn(true);
+        return harness::show(plot, 200, 160);
+    };
+    const auto load = [&](Plot& plot, double phase) {
+        return Heights(20, 17,
+                       [&](int i, int j) {
+                           return hole && i == 5 && j == 6 ? std::numeric_limits<double>::quiet_NaN()
+                                                           : 4.0 * std::sin(0.5 * i + phase) + 0.2 * j;
+                       })
+            .into(plot);
+    };
+    Plot lists;
+    Plot changing;
+    QVERIFY(prepare(lists) && prepare(changing));
+    QSignalSpy spy(&changing, &SHPlot::dataChangingChanged);
+    QVERIFY(changing.setDataChanging(true));
+    QVERIFY(!changing.setDataChanging(true));
+    QCOMPARE(spy.count(), 1);
+    for (const double phase : {0.0, 1.0}) {
+        QVERIFY(load(lists, phase));
+        GLRecorder recorder;
+        QVERIFY(load(changing, phase));
+        QCOMPARE(!recorder.primitives().isEmpty(), recorded);
+        QCOMPARE(harness::grab(changing), harness::grab(lists));
+    }
+    // Back to the list, and nothing left of the arrays.
+    QVERIFY(changing.setDataChanging(false));
+    QCOMPARE(harness::grab(changing), harness::grab(lists));
+    changing.clearData();
+    lists.clearData();
+    QCOMPARE(harness::grab(changing), harness::grab(lists));
 }
 
 void TestSHPlot::projections_data()

@@ -1,5 +1,6 @@
 // Random handling at speed. VORAN_SOAK_SECONDS sets for how long; VORAN_SOAK_SEED repeats a run.
 
+#include "core/celldata.h"
 #include "harness/harness.h"
 #include "plotfixture.h"
 #include "plots/look.h"
@@ -10,6 +11,8 @@
 #include <QtTest>
 
 #include <random>
+
+#include <malloc.h>
 
 using namespace Zel3D;
 using namespace fixture;
@@ -23,6 +26,38 @@ double residentMemory()
     if (!file.open(QIODevice::ReadOnly))
         return -1.0;
     return file.readAll().split(' ').value(1).toDouble() * 4096.0 / 1e6;
+}
+
+/// What the program has allocated and not freed, in bytes.
+double usedMemory()
+{
+    const struct mallinfo2 info = mallinfo2();
+    return double(info.uordblks + info.hblkhd);
+}
+
+double wave(int i, int j, double phase)
+{
+    return std::sin(0.1 * i + phase) * std::cos(0.1 * j);
+}
+
+void loadGrid(Plot& plot, int nodes, double phase)
+{
+    Heights(nodes, nodes, [phase](int i, int j) { return wave(i, j, phase); }).into(plot);
+}
+
+void loadCells(Plot& plot, int nodes, double phase)
+{
+    QVector<QVector3D> vertices;
+    QVector<QVector<unsigned int>> cells;
+    for (int i = 0; i < nodes; ++i) {
+        for (int j = 0; j < nodes; ++j) {
+            vertices.append(QVector3D(float(i), float(j), float(wave(i, j, phase))));
+            const auto here = unsigned(i * nodes + j);
+            if (i > 0 && j > 0)
+                cells.append({here, here - 1, here - unsigned(nodes)});
+        }
+    }
+    plot.loadFromData(vertices, cells, 1.0, 1.0);
 }
 
 class Handling
@@ -141,6 +176,53 @@ class TestSoak : public QObject
     Q_OBJECT
 
 private slots:
+    void reloadsLeaveNothingBehind_data()
+    {
+        QTest::addColumn<bool>("cells");
+        QTest::newRow("grid") << false;
+        QTest::newRow("cells") << true;
+    }
+
+    void reloadsLeaveNothingBehind()
+    {
+        QFETCH(bool, cells);
+        const harness::Messages quiet;
+        Plot plot;
+        plot.setPlotStyle(4);
+        QVERIFY(harness::show(plot, 100, 100));
+        const auto load = [&](int nodes, double phase) {
+            cells ? loadCells(plot, nodes, phase) : loadGrid(plot, nodes, phase);
+            plot.updateGL();
+        };
+        constexpr int small = 40;
+        constexpr int large = 10 * small;
+        constexpr int reloads = 100;
+        const auto reload = [&] {
+            for (int i = 0; i < reloads; ++i)
+                load(small, 0.1 * i);
+            return usedMemory();
+        };
+        // The driver loses twelve bytes for each GL_POLYGON of a list, and keeps the buffers of the largest
+        // list.
+        const double lost = cells ? 12.0 * reloads * small * small : 0.0;
+        const double slack = 0.1e6;
+        const double first = reload();
+        const double second = reload();
+        QVERIFY2(second - first < lost + slack, qPrintable(QString::number(second - first)));
+        load(large, 0.0);
+        const double afterLarge = reload();
+        load(large, 0.0);
+        const double afterLargeAgain = reload();
+        const double lostInLarge = cells ? 12.0 * large * large : 0.0;
+        QVERIFY2(afterLargeAgain - afterLarge < lost + lostInLarge + 10.0 * slack,
+                 qPrintable(QString::number(afterLargeAgain - afterLarge)));
+        // Nor does the other container hold on to what it had.
+        loadGrid(plot, small, 0.0);
+        QCOMPARE(plot.getCellData()->getVertices().capacity(), 0);
+        QCOMPARE(plot.getCellData()->getVertexNormals().capacity(), 0);
+        QCOMPARE(plot.getCellData()->getCells().capacity(), 0);
+    }
+
     void handlingAtSpeed()
     {
         const int seconds = qEnvironmentVariableIntValue("VORAN_SOAK_SECONDS");
