@@ -211,10 +211,10 @@ private:
 class CylinderLoader : public Loader
 {
 public:
-    explicit CylinderLoader(int ribs)
+    explicit CylinderLoader(int ribLines)
     {
         plot->setPlotStyle(6);
-        plot->setCylinderRibNumber(ribs);
+        plot->setCylinderRibNumber(ribLines);
         plot->setCylinderFrameVisible(false);
     }
     void prepare(const Heights& /*heights*/) override {}
