@@ -33,7 +33,7 @@ void ColorButton::setColor(const QColor& newColor)
 
 void ColorButton::describe()
 {
-    setAccessibleDescription(color.isValid() ? colorText(color) : tr("No colour"));
+    setAccessibleDescription(color.isValid() ? colorText(color) : tr("No color"));
 }
 
 QSize ColorButton::sizeHint() const
@@ -46,7 +46,7 @@ void ColorButton::chooseColor()
 {
     auto* dialog = new QColorDialog(this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setWindowTitle(tr("Choose a colour"));
+    dialog->setWindowTitle(tr("Choose a color"));
     dialog->setOption(QColorDialog::ShowAlphaChannel, hasAlpha);
     // After the option, without which the dialog drops alpha.
     dialog->setCurrentColor(color.isValid() ? color : QColor(Qt::white));

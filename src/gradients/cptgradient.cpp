@@ -100,7 +100,7 @@ bool CptReader::readSlice(const QStringList& words)
     else if (words.size() == 3 + components)
         firstSize = isNumber(words[1]) ? components : 1;
     else
-        return fail(GradientFile::tr("A slice is a value, a colour, a value and a colour."));
+        return fail(GradientFile::tr("A slice is a value, a color, a value and a color."));
     Slice slice{};
     if (!formatNumber(words[0], slice.from) || !formatNumber(words[firstSize + 1], slice.to))
         return fail(GradientFile::tr("The ends of the slice are not numbers."));
@@ -146,7 +146,7 @@ bool CptReader::readColor(const QStringList& words, QColor& color)
     if (!ok)
         return false;
     if (!color.isValid())
-        return fail(GradientFile::tr("“%1” is no colour.").arg(whole.left(40)));
+        return fail(GradientFile::tr("“%1” is no color.").arg(whole.left(40)));
     if (whole.contains('@')) {
         double transparency = 0.0;
         if (!formatNumber(whole.section('@', 1), transparency) || transparency < 0.0 || transparency > 100.0)
@@ -160,7 +160,7 @@ bool CptReader::readComponents(const QStringList& words, Model kind, QColor& col
 {
     std::array<double, 4> n{};
     if (words.size() != (kind == Model::Cmyk ? 4 : 3))
-        return fail(GradientFile::tr("The colour has %1 components.").arg(words.size()));
+        return fail(GradientFile::tr("The color has %1 components.").arg(words.size()));
     std::array<double, 4> limits = {255.0, 255.0, 255.0, 255.0};
     if (kind == Model::Hsv)
         limits = {360.0, 1.0, 1.0, 1.0};
@@ -169,7 +169,7 @@ bool CptReader::readComponents(const QStringList& words, Model kind, QColor& col
     for (int i = 0; i < words.size(); ++i) {
         const auto index = static_cast<std::size_t>(i);
         if (!formatNumber(words[i], n[index]) || n[index] < 0.0 || n[index] > limits[index])
-            return fail(GradientFile::tr("The colour component “%1” is no number from 0 to %2.")
+            return fail(GradientFile::tr("The color component “%1” is no number from 0 to %2.")
                             .arg(words[i].left(40))
                             .arg(limits[index]));
     }
@@ -212,7 +212,7 @@ GradientFile::Result CptReader::result(int lastLine) const
     if (!error.isOk())
         return error;
     if (slices.isEmpty())
-        return formatError(lastLine, GradientFile::tr("There is no slice of colours."));
+        return formatError(lastLine, GradientFile::tr("There is no slice of colors."));
     const double start = slices.first().from;
     const double span = slices.last().to - start;
     if (!std::isfinite(span))

@@ -92,7 +92,7 @@ QString readArgument(const Argument& argument, QVector<Item>& items)
     static const QRegularExpression form("^([^ (]*[a-zA-Z][^ (]*(?:\\([^()]*\\))?|#[^ ]*)?((?: ?[^ ()]+)*)$");
     const QRegularExpressionMatch match = form.match(text);
     const QString shown = text.left(40);
-    const QString unreadable = GradientFile::tr("“%1” is no colour with a position in per cent.").arg(shown);
+    const QString unreadable = GradientFile::tr("“%1” is no color with a position in per cent.").arg(shown);
     if (!match.hasMatch() || text.isEmpty())
         return unreadable;
     Item item;
@@ -100,7 +100,7 @@ QString readArgument(const Argument& argument, QVector<Item>& items)
     if (!match.captured(1).isEmpty()) {
         item.color = cssColor(match.captured(1));
         if (!item.color.isValid())
-            return GradientFile::tr("“%1” is no colour.").arg(match.captured(1).left(40));
+            return GradientFile::tr("“%1” is no color.").arg(match.captured(1).left(40));
     }
     const QStringList words = match.captured(2).split(' ', Qt::SkipEmptyParts);
     const int most = item.isHint() ? 1 : 2;
@@ -219,10 +219,10 @@ GradientFile::Result build(QVector<Item>& items, int line)
             continue;
         ++hints;
         if (i == 0 || i == items.size() - 1 || items[i - 1].isHint())
-            return formatError(items[i].line, GradientFile::tr("A hint does not stand between two colours."));
+            return formatError(items[i].line, GradientFile::tr("A hint does not stand between two colors."));
     }
     if (items.size() - hints < 2)
-        return formatError(line, GradientFile::tr("A gradient needs two colours."));
+        return formatError(line, GradientFile::tr("A gradient needs two colors."));
     fixPositions(items);
     GradientFile::Result result;
     for (int i = 0; i + 1 < items.size();) {

@@ -36,9 +36,9 @@ GradientEditDialog::GradientEditDialog(QWidget* parent)
     label->setBuddy(stops);
     stops->setToolTip(
         tr("Drag a handle to move a stop, with Shift in steps of 5 %; drag it off to remove it.\n"
-           "Double click beside the handles to add a stop, on a handle to choose its colour.\n"
+           "Double click beside the handles to add a stop, on a handle to choose its color.\n"
            "Keys: Up and Down select, Left and Right move (Ctrl: 0.1 %, Shift: 5 %),\n"
-           "Insert adds, Delete removes, Return chooses the colour."));
+           "Insert adds, Delete removes, Return chooses the color."));
     layout->addWidget(label);
     layout->addWidget(stops, 1);
     layout->addWidget(makeFields());
@@ -74,10 +74,10 @@ QWidget* GradientEditDialog::makeFields()
     // A position half typed would move the stop past others.
     position->setKeyboardTracking(false);
     add(tr("&Position"), position, tr("Position of the stop"), tr("Position of the stop, 0 to 100 %"), 0);
-    add(tr("&Colour"), color, tr("Colour of the stop"),
-        tr("Chooses the colour of the stop and how opaque it is"), 1);
-    add(tr("&Hex"), hex, tr("Colour of the stop as a hexadecimal number"),
-        tr("Colour as #rrggbb or #rrggbbaa, each part 00 to ff; aa is 00 where it is transparent"), 2);
+    add(tr("&Color"), color, tr("Color of the stop"),
+        tr("Chooses the color of the stop and how opaque it is"), 1);
+    add(tr("&Hex"), hex, tr("Color of the stop as a hexadecimal number"),
+        tr("Color as #rrggbb or #rrggbbaa, each part 00 to ff; aa is 00 where it is transparent"), 2);
     hex->setMaxLength(9);
     hex->setMinimumWidth(hex->fontMetrics().horizontalAdvance("#dddddddd") + hex->fontMetrics().height());
     grid->setColumnStretch(0, 1);

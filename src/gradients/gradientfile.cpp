@@ -118,12 +118,12 @@ GradientFile::Result parseGradientText(const QString& text)
         double position = 0.0;
         if (words.size() != 2 || !formatNumber(words[0], position) || position < 0.0 || position > 1.0)
             return formatError(line.number,
-                               GradientFile::tr("A stop is a position from 0 to 1 and a colour, not “%1”.")
+                               GradientFile::tr("A stop is a position from 0 to 1 and a color, not “%1”.")
                                    .arg(line.shortText()));
         const QColor color = colorFromText(words[1]);
         if (!color.isValid())
             return formatError(line.number,
-                               GradientFile::tr("“%1” is no colour like #rrggbbaa.").arg(words[1].left(40)));
+                               GradientFile::tr("“%1” is no color like #rrggbbaa.").arg(words[1].left(40)));
         if (!result.stops.isEmpty() && position < result.stops.last().first)
             return formatError(line.number, GradientFile::tr("The position is less than the one before."));
         if (result.stops.size() == GradientFile::maximumStops)

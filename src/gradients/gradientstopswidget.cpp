@@ -41,7 +41,7 @@ QString GradientStopsWidget::getValueText() const
     const int current = model->getCurrent();
     if (current < 0)
         return tr("No stops");
-    return tr("Stop %1 of %2 at %3 %, colour %4")
+    return tr("Stop %1 of %2 at %3 %, color %4")
         .arg(current + 1)
         .arg(model->count())
         .arg(model->getPosition(current) * 100.0, 0, 'f', 2)

@@ -216,7 +216,7 @@ void BasePlot::warnWithoutGradient()
         return;
     warnedWithoutGradient = true;
     qWarning(
-        "Plot \"%s\": its gradient has no colours, so nothing is drawn; call setGradient(name, gradient).",
+        "Plot \"%s\": its gradient has no colors, so nothing is drawn; call setGradient(name, gradient).",
         qPrintable(objectName()));
 }
 

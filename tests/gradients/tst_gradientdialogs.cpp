@@ -346,10 +346,10 @@ void TestGradientDialogs::files()
     QCOMPARE(editableStops(manager.gradients()["Edge1"]), edge);
     QVERIFY(manager.gradients()["Edge1"] == manager.gradients()["Edge"]);
     // A file without a name gives its own; its end colours reach the ends.
-    write(folder.filePath("my colours.css"), "linear-gradient(red 20%, blue)");
-    dialog.importFile(folder.filePath("my colours.css"));
-    QCOMPARE(dialog.getCurrentName(), QString("my colours"));
-    QCOMPARE(manager.gradients()["my colours"].stops().first().first, 0.0);
+    write(folder.filePath("my colors.css"), "linear-gradient(red 20%, blue)");
+    dialog.importFile(folder.filePath("my colors.css"));
+    QCOMPARE(dialog.getCurrentName(), QString("my colors"));
+    QCOMPARE(manager.gradients()["my colors"].stops().first().first, 0.0);
     // Damaged and missing files change nothing and are told about.
     const int count = manager.gradients().size();
     write(folder.filePath("bad.cpt"), "0 red 1 blue\n1 red 0 blue");

@@ -121,7 +121,7 @@ void TestGradientFile::reads_data()
         "0 #ff0000ff, 0.2 #008000ff, 0.4 #ff0000ff, 0.6 #008000ff, 0.8 #00ffffff, 1 #663399ff");
     row("css, remark", "/* linear-gradient(\n */ -webkit-linear-gradient(left, /* , */ tan, navy)",
         "0 #d2b48cff, 1 #000080ff");
-    row("css, transparent keeps the colour", "linear-gradient(red, transparent, blue)",
+    row("css, transparent keeps the color", "linear-gradient(red, transparent, blue)",
         "0 #ff0000ff, 0.5 #ff000000, 0.5 #0000ff00, 1 #0000ffff");
     row("cpt, rgb",
         "# COLOR_MODEL = RGB\n-10 0 0 255 0 255 255 255\n0 255/255/255 30 255/0/0 L ; label\nB black\n"
@@ -130,7 +130,7 @@ void TestGradientFile::reads_data()
     row("cpt, names, greys, sharp edge, alpha", "0 red 1 red\n1 128 3 0@25 U\n3 #0f0 4 navy",
         "0 #ff0000ff, 0.25 #ff0000ff, 0.25 #808080ff, 0.75 #000000bf, 0.75 #00ff00ff, 1 #000080ff");
     row("cpt, mixed widths", "0 red 1 0 0 255\n1 0 0 255 2 white", "0 #ff0000ff, 0.5 #0000ffff, 1 #ffffffff");
-    row("cpt, hsv colours", "#COLOR_MODEL=HSV\n0 0 1 1 10 240 1 0.5", "0 #ff0000ff, 1 #000080ff");
+    row("cpt, hsv colors", "#COLOR_MODEL=HSV\n0 0 1 1 10 240 1 0.5", "0 #ff0000ff, 1 #000080ff");
     row("cpt, hsv blending", "# COLOR_MODEL = +HSV\n0 0-1-1 8 240-1-1",
         "0 #ff0000ff, 0.125 #ff8000ff, 0.25 #ffff00ff, 0.375 #80ff00ff, 0.5 #00ff00ff, 0.625 #00ff80ff, "
         "0.75 #00ffffff, 0.875 #0080ffff, 1 #0000ffff");
@@ -167,14 +167,14 @@ void TestGradientFile::refuses_data()
     row("falling", own + "0.5 #000\n\n0.4 #000", 4, "less");
     row("out of range", own + "1.5 #000", 2, "from 0 to 1");
     row("no number", own + "nan #000", 2, "from 0 to 1");
-    row("five digits", own + "0 #00000", 2, "no colour");
+    row("five digits", own + "0 #00000", 2, "no color");
     row("binary", own + QByteArray("0 \0", 3), 2, "text file");
     row("not UTF-8", own + "name: \xff\n", 2, "text file");
     row("long line", own + QByteArray(5000, ' '), 2, "4096");
     row("many stops", own + QByteArray("0 #000\n").repeated(4097), 4098, "4096");
     row("css, no end", "a\nlinear-gradient(red, blue", 2, "closing");
-    row("css, one colour", "linear-gradient(red)", 1, "two colours");
-    row("css, empty", "linear-gradient()", 1, "no colour");
+    row("css, one color", "linear-gradient(red)", 1, "two colors");
+    row("css, empty", "linear-gradient()", 1, "no color");
     row("css, pixels", "linear-gradient(red,\nblue 20px)", 2, "20px");
     row("css, unknown name", "linear-gradient(red, bluish)", 1, "bluish");
     row("css, hint at the end", "linear-gradient(red, blue, 50%)", 1, "hint");

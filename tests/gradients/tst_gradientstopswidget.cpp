@@ -253,7 +253,7 @@ void TestGradientStopsWidget::isToldAloud()
     QCOMPARE(interface->role(), QAccessible::Slider);
     QVERIFY(!interface->text(QAccessible::Name).isEmpty());
     model->setCurrent(1);
-    QCOMPARE(interface->text(QAccessible::Value), QString("Stop 2 of 3 at 50.00 %, colour #00ff00ff"));
+    QCOMPARE(interface->text(QAccessible::Value), QString("Stop 2 of 3 at 50.00 %, color #00ff00ff"));
 }
 
 int main(int argc, char* argv[])

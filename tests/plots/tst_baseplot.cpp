@@ -126,7 +126,7 @@ void TestBasePlot::changesEmitOnceAndRebuildAtTheNextPaint_data()
         [](Plot& p) { return p.setViewProjection(BottomProjection); });
     row("normals off", "normalsChanged(false)", 0, [](Plot& p) { return p.setNormalsVisible(false); });
     row("mesh smooth", "meshSmoothChanged(true)", 1, [](Plot& p) { return p.setMeshSmooth(true); });
-    row("mesh colour", "meshColorChanged(#ff0000)", 1, [](Plot& p) { return p.setMeshColor(Qt::red); });
+    row("mesh color", "meshColorChanged(#ff0000)", 1, [](Plot& p) { return p.setMeshColor(Qt::red); });
     row("mesh width", "meshLineWidthChanged(2.5)", 1, [](Plot& p) { return p.setMeshLineWidth(2.5); });
     row("ribs", "cylinderRibNumberChanged(5)", 1, [](Plot& p) { return p.setCylinderRibNumber(5); });
     row("radius, truncated", "cylinderRadiusChanged(2)", 1, [](Plot& p) { return p.setCylinderRadius(2.7); });
