@@ -21,6 +21,7 @@ std::unique_ptr<PlotView> SpectraSource::read()
     if (!reader.read(spectra))
         return fail(reader.error());
     auto plot = std::make_unique<ViewerSpectrum>();
+    prepare(*plot);
     if (!plot->load(spectra))
         return failToDraw();
     m_label = spectra.spectraLabel;
@@ -30,8 +31,9 @@ std::unique_ptr<PlotView> SpectraSource::read()
         values += spectrum.size();
         m_names[position] = spectra.names.value(index++);
     }
-    const QVector3D& lower = plot->getHull().minimum;
-    const QVector3D& upper = plot->getHull().maximum;
+    const Zel3D::Parallelepiped& read = plot->box();
+    const QVector3D& lower = read.minimum;
+    const QVector3D& upper = read.maximum;
     const QString box = tr("%1 to %2, values %3 to %4")
                             .arg(double(lower.x()), 0, 'g', 6)
                             .arg(double(upper.x()), 0, 'g', 6)

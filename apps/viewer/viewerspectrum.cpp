@@ -3,6 +3,8 @@
 #include "plotstyles.h"
 #include "spectra.h"
 
+#include <array>
+#include <cmath>
 #include <limits>
 
 namespace {
@@ -26,23 +28,40 @@ ViewerSpectrum::ViewerSpectrum(QWidget* parent) : ViewedPlot(parent)
     resetView();
 }
 
+float ViewerSpectrum::drawn(double value, int direction) const
+{
+    const Zel3D::ValueXYZ<double>& origin = getDataOrigin();
+    if (isLogarithmicData(Zel3D::BaseAxisType(direction)))
+        return float(std::log10(value));
+    return float(value - std::array<double, 3>{origin.x, origin.y, origin.z}[std::size_t(direction)]);
+}
+
 void ViewerSpectrum::setBox(const Spectra& spectra)
 {
     // The plot's own box also reaches to the position of the first spectrum, on the axis of the values.
-    const auto infinity = std::numeric_limits<float>::infinity();
-    QVector3D lower(infinity, infinity, infinity);
-    QVector3D upper = -lower;
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    std::array<double, 3> lower{infinity, infinity, infinity};
+    std::array<double, 3> upper{-infinity, -infinity, -infinity};
     for (const auto& [position, values] : spectra.map) {
         for (const auto& [at, value] : values) {
-            const float place[] = {float(at), float(position), float(value)};
-            for (int i = 0; i < 3; ++i) {
+            const double place[] = {at, position, value};
+            for (std::size_t i = 0; i < 3; ++i) {
+                if (place[i] <= 0.0 && isLogarithmicData(Zel3D::BaseAxisType(i)))
+                    continue;
                 // Missing values compare as neither.
                 lower[i] = place[i] < lower[i] ? place[i] : lower[i];
                 upper[i] = place[i] > upper[i] ? place[i] : upper[i];
             }
         }
     }
-    setFixedHull({lower, upper});
+    const auto corner = [](const std::array<double, 3>& p) {
+        return QVector3D(float(p[0]), float(p[1]), float(p[2]));
+    };
+    const auto drawnCorner = [this](const std::array<double, 3>& p) {
+        return QVector3D(drawn(p[0], 0), drawn(p[1], 1), drawn(p[2], 2));
+    };
+    m_box = {corner(lower), corner(upper)};
+    setFixedHull({drawnCorner(lower), drawnCorner(upper)});
 }
 
 bool ViewerSpectrum::load(const Spectra& spectra)
