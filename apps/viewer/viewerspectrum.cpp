@@ -3,7 +3,7 @@
 #include "plotstyles.h"
 #include "spectra.h"
 
-#include <array>
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -33,15 +33,14 @@ float ViewerSpectrum::drawn(double value, int direction) const
     const Zel3D::ValueXYZ<double>& origin = getDataOrigin();
     if (isLogarithmicData(Zel3D::BaseAxisType(direction)))
         return float(std::log10(value));
-    return float(value - std::array<double, 3>{origin.x, origin.y, origin.z}[std::size_t(direction)]);
+    return float(value - Corner{origin.x, origin.y, origin.z}[std::size_t(direction)]);
 }
 
-void ViewerSpectrum::setBox(const Spectra& spectra)
+void ViewerSpectrum::measure(const Spectra& spectra)
 {
-    // The plot's own box also reaches to the position of the first spectrum, on the axis of the values.
     constexpr double infinity = std::numeric_limits<double>::infinity();
-    std::array<double, 3> lower{infinity, infinity, infinity};
-    std::array<double, 3> upper{-infinity, -infinity, -infinity};
+    m_lower = {infinity, infinity, infinity};
+    m_upper = {-infinity, -infinity, -infinity};
     for (const auto& [position, values] : spectra.map) {
         for (const auto& [at, value] : values) {
             const double place[] = {at, position, value};
@@ -49,26 +48,29 @@ void ViewerSpectrum::setBox(const Spectra& spectra)
                 if (place[i] <= 0.0 && isLogarithmicData(Zel3D::BaseAxisType(i)))
                     continue;
                 // Missing values compare as neither.
-                lower[i] = place[i] < lower[i] ? place[i] : lower[i];
-                upper[i] = place[i] > upper[i] ? place[i] : upper[i];
+                m_lower[i] = place[i] < m_lower[i] ? place[i] : m_lower[i];
+                m_upper[i] = place[i] > m_upper[i] ? place[i] : m_upper[i];
             }
         }
     }
-    const auto corner = [](const std::array<double, 3>& p) {
-        return QVector3D(float(p[0]), float(p[1]), float(p[2]));
-    };
-    const auto drawnCorner = [this](const std::array<double, 3>& p) {
+}
+
+void ViewerSpectrum::calculateHull()
+{
+    // The plot's own box also reaches to the position of the first spectrum, on the axis of the values.
+    if (!std::all_of(m_lower.begin(), m_lower.end(), [](double value) { return std::isfinite(value); }))
+        return Zel3D::Spectrum::calculateHull();
+    const auto corner = [this](const Corner& p) {
         return QVector3D(drawn(p[0], 0), drawn(p[1], 1), drawn(p[2], 2));
     };
-    m_box = {corner(lower), corner(upper)};
-    setFixedHull({drawnCorner(lower), drawnCorner(upper)});
+    setHull({corner(m_lower), corner(m_upper)});
 }
 
 bool ViewerSpectrum::load(const Spectra& spectra)
 {
+    measure(spectra);
     if (!loadFromData(spectra.map, Zel3D::YAxis))
         return false;
-    setBox(spectra);
     nameAxes({spectra.positionLabel.isEmpty() ? tr("Position") : spectra.positionLabel, spectra.spectraLabel,
               tr("Value")});
     resetView();
