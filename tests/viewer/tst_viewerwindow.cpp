@@ -12,6 +12,8 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QDropEvent>
+#include <QFileDialog>
+#include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -87,6 +89,7 @@ private slots:
     void pictureIsThePlotOnTheScreen();
     void savedSizeIsRemembered();
     void failedPictureSaysWhy();
+    void turntableWritesItsFrames();
     void copyPutsThePictureOnTheClipboard();
     void windowComesBackAsItWasLeft();
 
@@ -295,6 +298,31 @@ void TestViewerWindow::failedPictureSaysWhy()
     });
     QVERIFY(kept.open(QIODevice::ReadOnly));
     QCOMPARE(kept.readAll(), QByteArray("old"));
+}
+
+void TestViewerWindow::turntableWritesItsFrames()
+{
+    QTemporaryDir folder;
+    const QImage before = harness::grab(plotOf(*m_window));
+    QTimer answers;
+    connect(&answers, &QTimer::timeout, [&folder] {
+        QWidget* const shown = QApplication::activeModalWidget();
+        if (auto* file = qobject_cast<QFileDialog*>(shown)) {
+            file->findChild<QLineEdit*>()->setText(folder.filePath("turn.png"));
+            static_cast<QDialog*>(file)->accept();
+        } else if (auto* number = qobject_cast<QInputDialog*>(shown)) {
+            number->setIntValue(2);
+            number->accept();
+        }
+    });
+    answers.start(50);
+    action("Save turntable...").trigger();
+    answers.stop();
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files), (QStringList{"turn0001.png", "turn0002.png"}));
+    const QImage first(folder.filePath("turn0001.png"));
+    QVERIFY(missingIn(before, first) < 0.005);
+    QVERIFY(missingIn(before, QImage(folder.filePath("turn0002.png"))) > 0.02);
+    QCOMPARE(harness::grab(plotOf(*m_window)), before);
 }
 
 void TestViewerWindow::copyPutsThePictureOnTheClipboard()
