@@ -2,14 +2,23 @@
 
 #include "filekind.h"
 #include "formula.h"
+#include "gradients/gradientpresets.h"
 #include "plotstyles.h"
+#include "startview.h"
 
 #include <QRegularExpression>
+
+#include <cmath>
 
 namespace {
 
 constexpr int smallestSide = 50;
 constexpr int largestSide = 16384;
+
+constexpr double largestAngle = 360.0;
+
+// The suffixes that are options, too.
+constexpr const char* pictureFormats[] = {"png", "jpeg", "svg", "pdf", "eps"};
 
 constexpr char usualRange[] = "-5:5";
 constexpr char usualMesh[] = "150";
@@ -20,6 +29,14 @@ QStringList lookNames()
     const QList<Zel3D::Look> looks = Zel3D::Look::all();
     for (const Zel3D::Look& look : looks)
         names.append(look.name.toLower());
+    return names;
+}
+
+QStringList gradientNames()
+{
+    QStringList names;
+    for (const Zel3D::GradientPreset& preset : Zel3D::gradientPresets())
+        names.append(preset.name);
     return names;
 }
 
@@ -55,14 +72,34 @@ CommandLine::CommandLine()
         {"template", tr("Give the plot the appearance that this file holds."), "FILE"},
         {"size", tr("Size of the plot in pixels, each side %1 to %2.").arg(smallestSide).arg(largestSide),
          "WxH"},
-        {"png", tr("Write the plot to this picture and leave."), "PICTURE"},
+        {"view",
+         tr("Show the plot from there: %1, or a rotation about x, y and z in degrees, such as 45,0,25.")
+             .arg(StartView::names().join(", ")),
+         "X,Y,Z"},
+        {"gradient", tr("Colour the data with this gradient: %1.").arg(gradientNames().join(", ")), "NAME"},
+        {"axes", tr("Name the axes; what is left empty keeps its name."), "X,Y,Z"},
+        {"log",
+         tr("Show these directions logarithmically, such as x,z. Values at or below zero are missing then."),
+         "LETTERS"},
         {"band", tr("Band of a grid file to show, from 1.", "command line"), "N"},
-        {{"h", "help"}, tr("Show this help and leave.")},
-        {{"v", "version"}, tr("Show the version and leave.")},
     });
+    addPictureOptions();
+    m_parser.addOptions({{{"h", "help"}, tr("Show this help and leave.")},
+                         {{"v", "version"}, tr("Show the version and leave.")}});
     QString none;
     m_area.setRange(usualRange, none);
     m_area.setMesh(usualMesh, none);
+}
+
+void CommandLine::addPictureOptions()
+{
+    for (const char* format : pictureFormats) {
+        const QString name = QString(format).toUpper();
+        m_parser.addOption({format,
+                            tr("Write the plot as %1 and leave; may stand beside other formats.").arg(name),
+                            "PICTURE"});
+    }
+    m_parser.addOption({"transparent", tr("Leave out the background of pictures.")});
 }
 
 CommandLine::Outcome CommandLine::refuse(const QString& sentence)
@@ -92,7 +129,6 @@ CommandLine::Outcome CommandLine::take()
     if (files.size() > 1)
         return refuse(tr("Only one file can be shown; %1 are named.").arg(files.size()));
     m_file = files.value(0);
-    m_picture = m_parser.value("png");
     m_template = m_parser.value("template");
     if (m_parser.isSet("template") && m_template.isEmpty())
         return refuse(tr("The option --template names no file."));
@@ -100,15 +136,17 @@ CommandLine::Outcome CommandLine::take()
     {
         const char* option;
         bool (CommandLine::*take)(const QString&);
-    } checks[] = {{"style", &CommandLine::takeStyle},      {"look", &CommandLine::takeLook},
-                  {"size", &CommandLine::takeSize},        {"band", &CommandLine::takeBand},
-                  {"function", &CommandLine::takeFormula}, {"range", &CommandLine::takeRange},
-                  {"mesh", &CommandLine::takeMesh}};
+    } checks[] = {{"style", &CommandLine::takeStyle},       {"look", &CommandLine::takeLook},
+                  {"size", &CommandLine::takeSize},         {"band", &CommandLine::takeBand},
+                  {"function", &CommandLine::takeFormula},  {"range", &CommandLine::takeRange},
+                  {"mesh", &CommandLine::takeMesh},         {"view", &CommandLine::takeView},
+                  {"gradient", &CommandLine::takeGradient}, {"axes", &CommandLine::takeAxes},
+                  {"log", &CommandLine::takeLogarithmic}};
     for (const auto& check : checks) {
         if (m_parser.isSet(check.option) && !(this->*check.take)(m_parser.value(check.option)))
             return Refuse;
     }
-    return checkTogether();
+    return takePictures() ? checkTogether() : Refuse;
 }
 
 CommandLine::Outcome CommandLine::checkTogether()
@@ -121,10 +159,37 @@ CommandLine::Outcome CommandLine::checkTogether()
     }
     if (m_parser.isSet("band") && (!m_formula.isEmpty() || fileKind(m_file) != FileKind::Grid))
         return refuse(tr("The option --band is for grid files; none is named."));
-    if (m_parser.isSet("png") && m_picture.isEmpty())
-        return refuse(tr("The option --png names no picture."));
-    if (m_parser.isSet("png") && m_file.isEmpty() && m_formula.isEmpty())
+    if (m_parser.isSet("log") && !m_file.isEmpty() && fileKind(m_file) == FileKind::Mesh)
+        return refuse(tr("The option --log is for grids, spectra and formulas; a mesh is named."));
+    for (const char* option : {"view", "gradient", "axes", "log"}) {
+        if (m_parser.isSet(option) && m_file.isEmpty() && m_formula.isEmpty())
+            return refuse(
+                tr("The option --%1 needs a file or a formula to show; none is named.").arg(option));
+    }
+    return checkPictures();
+}
+
+bool CommandLine::takePictures()
+{
+    for (const char* format : pictureFormats) {
+        const QStringList paths = m_parser.values(format);
+        for (const QString& path : paths) {
+            m_pictures.append({path, format});
+            if (path.isEmpty()) {
+                refuse(tr("The option --%1 names no picture.").arg(format));
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+CommandLine::Outcome CommandLine::checkPictures()
+{
+    if (!m_pictures.isEmpty() && m_file.isEmpty() && m_formula.isEmpty())
         return refuse(tr("A picture needs a file or a formula to show; none is named."));
+    if (isTransparent() && m_pictures.isEmpty())
+        return refuse(tr("The option --transparent is for pictures; none is named."));
     return Show;
 }
 
@@ -207,4 +272,66 @@ bool CommandLine::takeBand(const QString& value)
     if (!valid || m_band < 1)
         refuse(tr("The band \"%1\" is not a whole number from 1.").arg(value));
     return valid && m_band >= 1;
+}
+
+bool CommandLine::takeView(const QString& value)
+{
+    m_view = StartView::named(value);
+    if (m_view)
+        return true;
+    const QStringList parts = value.split(',');
+    std::array<double, 3> angles{};
+    bool valid = parts.size() == 3;
+    for (int i = 0; valid && i < 3; ++i) {
+        angles[std::size_t(i)] = parts.at(i).toDouble(&valid);
+        valid = valid && std::abs(angles[std::size_t(i)]) <= largestAngle;
+    }
+    if (valid)
+        m_view = Zel3D::ValueXYZ<double>{angles[0], angles[1], angles[2]};
+    else
+        refuse(tr("The view \"%1\" is neither three angles X,Y,Z from -%2 to %2 degrees nor one of %3.")
+                   .arg(value)
+                   .arg(largestAngle)
+                   .arg(StartView::names().join(", ")));
+    return valid;
+}
+
+bool CommandLine::takeGradient(const QString& value)
+{
+    const QStringList names = gradientNames();
+    for (const QString& name : names) {
+        if (name.compare(value, Qt::CaseInsensitive) == 0)
+            m_gradient = name;
+    }
+    if (m_gradient.isEmpty())
+        refuse(tr("There is no gradient \"%1\"; the gradients are %2.").arg(value, names.join(", ")));
+    return !m_gradient.isEmpty();
+}
+
+bool CommandLine::takeAxes(const QString& value)
+{
+    const QStringList names = value.split(',');
+    if (names.size() != 3) {
+        refuse(tr("The names of the axes \"%1\" are not three with commas between them.").arg(value));
+        return false;
+    }
+    for (int i = 0; i < 3; ++i)
+        m_axes[std::size_t(i)] = names.at(i).trimmed();
+    return true;
+}
+
+bool CommandLine::takeLogarithmic(const QString& value)
+{
+    const QStringList letters = value.toLower().split(',');
+    const QStringList axes{"x", "y", "z"};
+    for (const QString& letter : letters) {
+        const int axis = axes.indexOf(letter.trimmed());
+        if (axis < 0) {
+            refuse(
+                tr("The directions \"%1\" are not letters x, y or z with commas between them.").arg(value));
+            return false;
+        }
+        m_logarithmic[std::size_t(axis)] = true;
+    }
+    return true;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/types.h"
 #include "formulaarea.h"
 #include "plotkind.h"
 #include "plots/look.h"
@@ -9,8 +10,17 @@
 #include <QSize>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
+#include <array>
 #include <optional>
+
+/// A picture that was asked for.
+struct WantedPicture
+{
+    QString path;
+    QString format; ///< a suffix, whatever that of the path
+};
 
 /// What the person who started the viewer asked for. Needs a QCoreApplication and no display.
 class CommandLine
@@ -47,8 +57,18 @@ public:
     const QString& templateFile() const { return m_template; }
     /// The size of the plot in pixels, when one was asked for.
     std::optional<QSize> size() const { return m_size; }
-    /// The picture to write, or empty to open a window.
-    const QString& picture() const { return m_picture; }
+    /// The rotation in degrees to show the plot from, when one was asked for.
+    const std::optional<Zel3D::ValueXYZ<double>>& view() const { return m_view; }
+    /// The name of one of gradientPresets(), or empty.
+    const QString& gradient() const { return m_gradient; }
+    /// The names of the axes; empty ones stay as the data have them.
+    const std::array<QString, 3>& axes() const { return m_axes; }
+    /// Which of x, y and z are to be logarithmic.
+    const std::array<bool, 3>& logarithmic() const { return m_logarithmic; }
+    /// The pictures to write; none to open a window.
+    const QVector<WantedPicture>& pictures() const { return m_pictures; }
+    /// Whether pictures have nothing behind the plot.
+    bool isTransparent() const { return m_parser.isSet("transparent"); }
 
 private:
     Outcome refuse(const QString& sentence);
@@ -59,6 +79,13 @@ private:
     bool takeFormula(const QString& value);
     bool takeRange(const QString& value);
     bool takeMesh(const QString& value);
+    bool takeView(const QString& value);
+    bool takeGradient(const QString& value);
+    bool takeAxes(const QString& value);
+    bool takeLogarithmic(const QString& value);
+    void addPictureOptions();
+    bool takePictures();
+    Outcome checkPictures();
     Outcome take();
     Outcome checkTogether();
 
@@ -67,7 +94,11 @@ private:
     QString m_file;
     QString m_formula;
     FormulaArea m_area;
-    QString m_picture;
+    QVector<WantedPicture> m_pictures;
+    std::optional<Zel3D::ValueXYZ<double>> m_view;
+    QString m_gradient;
+    std::array<QString, 3> m_axes;
+    std::array<bool, 3> m_logarithmic{};
     QString m_template;
     std::optional<int> m_style;
     std::optional<Zel3D::Look> m_look;

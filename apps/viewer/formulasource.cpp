@@ -24,6 +24,7 @@ std::unique_ptr<PlotView> FormulaSource::read()
     grid.name.clear();
     auto plot = std::make_unique<ViewerPlot>();
     plot->setRelief(formulaRelief);
+    prepare(*plot);
     if (!plot->load(grid))
         return failToDraw();
     setDescription(describeGrid(grid));

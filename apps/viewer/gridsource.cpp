@@ -28,6 +28,7 @@ std::unique_ptr<PlotView> GridSource::read()
     auto plot = std::make_unique<ViewerPlot>();
     plot->setRelief(terrainRelief);
     plot->lightAsMap();
+    prepare(*plot);
     plot->setDataGradient(tr("Terrain"), terrainGradient());
     if (!plot->load(grid))
         return failToDraw();

@@ -1,8 +1,9 @@
 #include "commandline.h"
 #include "display.h"
+#include "export/picturewriter.h"
 #include "filesource.h"
 #include "formulasource.h"
-#include "picturefile.h"
+#include "gradients/gradientpresets.h"
 #include "plotpage.h"
 #include "plots/baseplot.h"
 #include "templateoption.h"
@@ -31,9 +32,33 @@ int refuse(const QString& sentence)
 
 std::unique_ptr<PlotSource> sourceOf(const CommandLine& wanted)
 {
-    if (!wanted.formula().isEmpty())
-        return std::make_unique<FormulaSource>(wanted.formula(), wanted.area());
-    return sourceOfFile(wanted.file(), wanted.band());
+    std::unique_ptr<PlotSource> source;
+    if (wanted.formula().isEmpty())
+        source = sourceOfFile(wanted.file(), wanted.band());
+    else
+        source = std::make_unique<FormulaSource>(wanted.formula(), wanted.area());
+    source->setLogarithmic(wanted.logarithmic());
+    return source;
+}
+
+/// What was asked for beside look and style. False when the template cannot be used; \a error says why.
+bool dress(PlotView& view, const CommandLine& wanted, QString& error)
+{
+    if (!wanted.templateFile().isEmpty() && !TemplateOption::apply(view.plot(), wanted.templateFile(), error))
+        return false;
+    for (const Zel3D::GradientPreset& preset : Zel3D::gradientPresets()) {
+        if (preset.name == wanted.gradient()) {
+            QLinearGradient gradient;
+            gradient.setStops(preset.stops);
+            view.setDataGradient(preset.name, gradient);
+        }
+    }
+    view.nameAxes(wanted.axes());
+    if (wanted.view()) {
+        view.setStartRotation(*wanted.view());
+        view.resetView();
+    }
+    return true;
 }
 
 void tellNotes(const PlotSource& source)
@@ -42,7 +67,23 @@ void tellNotes(const PlotSource& source)
         std::fprintf(stderr, "voranview: %s\n", qPrintable(note));
 }
 
-int takePicture(const CommandLine& wanted)
+int savePictures(Zel3D::BasePlot& plot, const CommandLine& wanted, const QSize& size)
+{
+    Zel3D::PictureOptions options;
+    options.pixels = size;
+    options.transparent = wanted.isTransparent();
+    for (const WantedPicture& picture : wanted.pictures()) {
+        const Zel3D::PictureResult result =
+            Zel3D::PictureWriter::save(plot, picture.path, options, picture.format);
+        if (!result.done)
+            return refuse(result.message);
+        if (!result.message.isEmpty())
+            std::fprintf(stderr, "voranview: %s\n", qPrintable(result.message));
+    }
+    return EXIT_SUCCESS;
+}
+
+int takePictures(const CommandLine& wanted)
 {
     const std::unique_ptr<PlotSource> source = sourceOf(wanted);
     const std::unique_ptr<PlotView> view = source->open();
@@ -58,16 +99,7 @@ int takePicture(const CommandLine& wanted)
         view->setLook(*wanted.look());
     view->resetView();
     QString error;
-    if (!wanted.templateFile().isEmpty() &&
-        !TemplateOption::apply(view->plot(), wanted.templateFile(), error))
-        return refuse(error);
-    const QImage picture = view->picture(size);
-    if (picture.isNull())
-        return refuse(CommandLine::tr("A picture of %1 x %2 pixels cannot be drawn here.")
-                          .arg(size.width())
-                          .arg(size.height()));
-    PictureFile file(wanted.picture());
-    return file.write(picture) ? EXIT_SUCCESS : refuse(file.error());
+    return dress(*view, wanted, error) ? savePictures(plot, wanted, size) : refuse(error);
 }
 
 int showWindow(const CommandLine& wanted)
@@ -83,8 +115,7 @@ int showWindow(const CommandLine& wanted)
             return refuse(error);
         tellNotes(window.page()->source());
     }
-    if (!wanted.templateFile().isEmpty() && window.page() &&
-        !TemplateOption::apply(window.page()->plot(), wanted.templateFile(), error))
+    if (window.page() && !dress(window.page()->view(), wanted, error))
         return refuse(error);
     window.show();
     if (wanted.size())
@@ -118,5 +149,5 @@ int main(int argc, char* argv[])
     const QString lacking = Display::openingDone();
     if (!lacking.isEmpty())
         return refuse(lacking);
-    return wanted.picture().isEmpty() ? showWindow(wanted) : takePicture(wanted);
+    return wanted.pictures().isEmpty() ? showWindow(wanted) : takePictures(wanted);
 }

@@ -13,6 +13,14 @@ std::unique_ptr<PlotView> PlotSource::open()
     return view;
 }
 
+void PlotSource::prepare(Zel3D::BasePlot& plot) const
+{
+    // Time stamps and projected coordinates keep their detail.
+    plot.setDataCentred(true);
+    for (Zel3D::BaseAxisType axis : {Zel3D::XAxis, Zel3D::YAxis, Zel3D::ZAxis})
+        plot.setLogarithmicData(axis, m_logarithmic[std::size_t(axis)]);
+}
+
 QString PlotSource::describe(const Zel3D::SelectedObjectsInfo& /*place*/) const
 {
     return QString();

@@ -5,6 +5,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <array>
 #include <memory>
 
 class WaterSimulation;
@@ -21,6 +22,8 @@ public:
     /// Reads what is to be shown into a new plot, which must not outlive the source. Null when that fails:
     /// error() says why.
     std::unique_ptr<PlotView> open();
+    /// Which of x, y and z are logarithmic; before open(). Meshes and computed surfaces leave it out.
+    void setLogarithmic(const std::array<bool, 3>& directions) { m_logarithmic = directions; }
     /// The file, for a source that is one.
     virtual QString filePath() const { return QString(); }
     /// What is said of a picked place, or empty to say its coordinates.
@@ -40,6 +43,8 @@ public:
 protected:
     /// Does the work of open().
     virtual std::unique_ptr<PlotView> read() = 0;
+    /// What a plot must know before it takes data.
+    void prepare(Zel3D::BasePlot& plot) const;
     void setName(const QString& name) { m_name = name; }
     void setDescription(const QString& text) { m_description = text; }
     void setNotes(const QStringList& sentences) { m_notes = sentences; }
@@ -49,6 +54,7 @@ protected:
     std::unique_ptr<PlotView> failToDraw();
 
 private:
+    std::array<bool, 3> m_logarithmic{};
     QString m_name;
     QString m_description;
     QStringList m_notes;

@@ -15,9 +15,6 @@ constexpr double startPart = 0.68;
 // In radii of the view: to the left, where no legend stands.
 constexpr double startShift = -0.06;
 
-// Smoothed edges cost four times the memory; beyond this many pixels they are not seen.
-constexpr qint64 mostSmoothedPixels = 32 * 1000 * 1000;
-
 } // namespace
 
 int PlotView::plotStyle()
@@ -50,6 +47,8 @@ void PlotView::nameAxes(const std::array<QString, 3>& names)
         {Zel3D::YLeftBottom, Zel3D::YLeftTop, Zel3D::YRightTop, Zel3D::YRightBottom},
         {Zel3D::ZBackLeft, Zel3D::ZFrontLeft, Zel3D::ZBackRight, Zel3D::ZFrontRight}};
     for (std::size_t direction = 0; direction < names.size(); ++direction) {
+        if (names[direction].isEmpty())
+            continue;
         for (Zel3D::AxisType edge : parallels[direction])
             plot().getCoordinateSystem().getAxis(edge).getLabel().getSettings().setText(names[direction]);
     }
@@ -76,10 +75,4 @@ void PlotView::refit()
 {
     if (plot().getZoom() == m_fittedZoom)
         fit();
-}
-
-int PlotView::pictureSamples(const QSize& pixels, const QGLFormat& format)
-{
-    const bool smoothed = qint64(pixels.width()) * pixels.height() <= mostSmoothedPixels;
-    return smoothed ? std::max(0, format.samples()) : 0;
 }

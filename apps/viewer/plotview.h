@@ -4,9 +4,8 @@
 #include "plotkind.h"
 #include "plots/look.h"
 
-#include <QGLFormat>
-#include <QImage>
-#include <QSize>
+#include <QGradient>
+#include <QString>
 
 #include <array>
 
@@ -15,7 +14,7 @@ class BasePlot;
 }
 
 /// What the viewer adds to a plot of the library, of whatever kind: a start view that fills the window until
-/// the person zooms, the colours of the data under every look, and pictures.
+/// the person zooms, and the colours of the data under every look.
 class PlotView
 {
 public:
@@ -26,10 +25,6 @@ public:
 
     virtual PlotKind kind() const = 0;
     virtual Zel3D::BasePlot& plot() = 0;
-    /// The plot at this size in device pixels, which has the widget's proportions, whatever the screen shows
-    /// of it; a null image when the driver has no room for it. Needs no window, makes its own context
-    /// current.
-    virtual QImage picture(const QSize& pixels) = 0;
 
     int plotStyle();
     /// Dresses the plot; data with colours of their own keep them.
@@ -41,14 +36,12 @@ public:
     void setStartRotation(const Zel3D::ValueXYZ<double>& degrees) { m_rotation = degrees; }
     /// Puts rotation, shift and zoom back to the start view, without repainting.
     void resetView();
-    /// The names on every edge of x, y and z.
+    /// The names on every edge of x, y and z; an empty one leaves that axis as it is.
     void nameAxes(const std::array<QString, 3>& names);
 
 protected:
     /// Fills the window again, unless the person has zoomed.
     void refit();
-    /// Smoothed edges as in the widget's format, where the driver has memory for them.
-    static int pictureSamples(const QSize& pixels, const QGLFormat& format);
 
 private:
     void fit();

@@ -7,7 +7,21 @@
 
 #include <QFileInfo>
 
+#include <cmath>
 #include <iterator>
+
+namespace {
+
+// Enough for seconds since 1970.
+constexpr int digits = 10;
+
+/// Small numbers are picked in single precision, large ones are told from their neighbours.
+int pickDigits(double value)
+{
+    return std::abs(value) < 1e6 ? 6 : digits;
+}
+
+} // namespace
 
 SpectraSource::SpectraSource(const QString& path) : m_path(path)
 {
@@ -21,6 +35,7 @@ std::unique_ptr<PlotView> SpectraSource::read()
     if (!reader.read(spectra))
         return fail(reader.error());
     auto plot = std::make_unique<ViewerSpectrum>();
+    prepare(*plot);
     if (!plot->load(spectra))
         return failToDraw();
     m_label = spectra.spectraLabel;
@@ -30,13 +45,11 @@ std::unique_ptr<PlotView> SpectraSource::read()
         values += spectrum.size();
         m_names[position] = spectra.names.value(index++);
     }
-    const QVector3D& lower = plot->getHull().minimum;
-    const QVector3D& upper = plot->getHull().maximum;
     const QString box = tr("%1 to %2, values %3 to %4")
-                            .arg(double(lower.x()), 0, 'g', 6)
-                            .arg(double(upper.x()), 0, 'g', 6)
-                            .arg(double(lower.z()), 0, 'g', 6)
-                            .arg(double(upper.z()), 0, 'g', 6);
+                            .arg(plot->lower()[0], 0, 'g', digits)
+                            .arg(plot->upper()[0], 0, 'g', digits)
+                            .arg(plot->lower()[2], 0, 'g', digits)
+                            .arg(plot->upper()[2], 0, 'g', digits);
     setDescription(tr("%1 spectra, %2 points, %3").arg(spectra.map.size()).arg(values).arg(box));
     setNotes(spectra.notes);
     return plot;
@@ -49,5 +62,8 @@ QString SpectraSource::describe(const Zel3D::SelectedObjectsInfo& place) const
     if (nearest == m_names.end() ||
         (nearest != m_names.begin() && place.y - std::prev(nearest)->first < nearest->first - place.y))
         --nearest;
-    return tr("%1 %2: %3 at %4").arg(m_label, nearest->second).arg(place.z).arg(place.x);
+    return tr("%1 %2: %3 at %4")
+        .arg(m_label, nearest->second)
+        .arg(place.z)
+        .arg(place.x, 0, 'g', pickDigits(place.x));
 }

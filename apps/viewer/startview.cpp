@@ -9,6 +9,17 @@ namespace {
 
 constexpr double mostUnlikeSides = 4.0;
 
+struct NamedView
+{
+    const char* name;
+    Zel3D::ValueXYZ<double> rotation;
+};
+
+// As the actions of the plots show them.
+constexpr NamedView views[] = {{"top", {90.0, 0.0, 0.0}},  {"bottom", {-90.0, 0.0, 0.0}},
+                               {"left", {0.0, 0.0, 90.0}}, {"right", {0.0, 0.0, -90.0}},
+                               {"front", {0.0, 0.0, 0.0}}, {"back", {0.0, 0.0, 180.0}}};
+
 } // namespace
 
 Zel3D::ValueXYZ<double> scale(const Zel3D::Parallelepiped& box, double relief)
@@ -33,6 +44,23 @@ Zel3D::ValueXYZ<double> rotation()
 Zel3D::ValueXYZ<double> rotationWithYUp()
 {
     return {110.0, -25.0, 0.0};
+}
+
+QStringList names()
+{
+    QStringList found;
+    for (const NamedView& view : views)
+        found.append(view.name);
+    return found;
+}
+
+std::optional<Zel3D::ValueXYZ<double>> named(const QString& name)
+{
+    for (const NamedView& view : views) {
+        if (name.compare(QLatin1String(view.name), Qt::CaseInsensitive) == 0)
+            return view.rotation;
+    }
+    return std::nullopt;
 }
 
 } // namespace StartView

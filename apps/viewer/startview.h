@@ -2,6 +2,10 @@
 
 #include "core/types.h"
 
+#include <QStringList>
+
+#include <optional>
+
 /// How data stand in the window when they are opened: pure functions.
 namespace StartView {
 
@@ -15,5 +19,10 @@ Zel3D::ValueXYZ<double> rotation();
 
 /// The same for a thing whose y axis points upwards.
 Zel3D::ValueXYZ<double> rotationWithYUp();
+
+/// The names of the views along an axis: "top", "bottom" ...
+QStringList names();
+/// The rotation of such a name, in any case of letters.
+std::optional<Zel3D::ValueXYZ<double>> named(const QString& name);
 
 } // namespace StartView

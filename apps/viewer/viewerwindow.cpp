@@ -3,7 +3,7 @@
 #include "filesource.h"
 #include "formuladialog.h"
 #include "formulasource.h"
-#include "picturefile.h"
+#include "pictureactions.h"
 #include "plothost.h"
 #include "plotpage.h"
 #include "plots/baseplot.h"
@@ -119,8 +119,7 @@ void ViewerWindow::createFileMenu()
     menu->addMenu(m_recentMenu);
     connect(m_recentMenu, &RecentMenu::chosen, this, &ViewerWindow::openFile);
     menu->addSeparator();
-    m_saveAction = menu->addAction(icon("savepicture"), tr("&Save picture..."), this,
-                                   &ViewerWindow::savePicture, QKeySequence::Save);
+    m_pictures = new PictureActions(*this, *menu, *menuBar()->addMenu(tr("&Edit")));
     menu->addSeparator();
     m_closeAction = menu->addAction(tr("&Close plot"), this, &ViewerWindow::closePlot,
                                     QKeySequence(Qt::CTRL + Qt::Key_W));
@@ -178,7 +177,7 @@ void ViewerWindow::removePage()
     m_host.reset();
     m_page.reset();
     m_plotMenu->menuAction()->setEnabled(false);
-    m_saveAction->setEnabled(false);
+    m_pictures->setPage(nullptr);
     m_closeAction->setEnabled(false);
     m_statusAction->setEnabled(false);
     setWindowTitle(tr("voranview"));
@@ -195,7 +194,7 @@ void ViewerWindow::placePage(std::unique_ptr<PlotPage> page)
     restoreState(m_barState);
     statusBar()->setVisible(m_statusAction->isChecked());
     m_plotMenu->menuAction()->setEnabled(true);
-    m_saveAction->setEnabled(true);
+    m_pictures->setPage(m_page.get());
     m_closeAction->setEnabled(true);
     m_statusAction->setEnabled(true);
     setWindowTitle(tr("%1 - voranview").arg(m_page->source().name()));
@@ -269,28 +268,6 @@ void ViewerWindow::askFormula()
     FormulaDialog dialog(this);
     if (dialog.exec() == QDialog::Accepted)
         showPlot(std::make_unique<FormulaSource>(dialog.formula(), dialog.area()));
-}
-
-void ViewerWindow::savePicture()
-{
-    QSettings settings;
-    const QString shown = m_page->source().filePath();
-    const QString base = shown.isEmpty() ? tr("plot") : QFileInfo(shown).completeBaseName();
-    const QString suggestion =
-        QDir(settings.value(folderKey).toString()).filePath(base + QLatin1String(".png"));
-    QFileDialog dialog(this, tr("Save picture"), suggestion, tr("Pictures (*.png)"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix("png");
-    dialog.selectFile(suggestion);
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    const QString path = dialog.selectedFiles().value(0);
-    PictureFile file(path);
-    const Zel3D::BasePlot& plot = m_page->plot();
-    if (file.write(m_page->view().picture(plot.size() * plot.devicePixelRatioF())))
-        statusBar()->showMessage(tr("Saved %1").arg(path), 5000);
-    else
-        QMessageBox::warning(this, tr("Save picture"), file.error());
 }
 
 void ViewerWindow::fitPlot(const QSize& size)

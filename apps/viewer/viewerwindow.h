@@ -6,6 +6,7 @@
 
 #include <memory>
 
+class PictureActions;
 class PlotHost;
 class PlotPage;
 class PlotSource;
@@ -59,7 +60,6 @@ private:
     void remember();
     void chooseFile();
     void askFormula();
-    void savePicture();
 
     PlotPreferences m_preferences;
     ViewerBindings* m_bindings;
@@ -73,7 +73,7 @@ private:
     RecentMenu* m_recentMenu = nullptr;
     QList<QAction*> m_newActions;
     QAction* m_openAction = nullptr;
-    QAction* m_saveAction = nullptr;
+    PictureActions* m_pictures = nullptr;
     QAction* m_closeAction = nullptr;
     QAction* m_statusAction = nullptr;
     QAction* m_fullScreenAction = nullptr;

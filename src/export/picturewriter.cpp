@@ -54,13 +54,14 @@ PictureResult PictureWriter::failure(const QString& path, const QString& reason)
     return result;
 }
 
-PictureResult PictureWriter::save(BasePlot& plot, const QString& path, const PictureOptions& options)
+PictureResult PictureWriter::save(BasePlot& plot, const QString& path, const PictureOptions& options,
+                                  const QString& format)
 {
-    const QString suffix = QFileInfo(path).suffix();
+    const QString suffix = format.isEmpty() ? QFileInfo(path).suffix() : format;
     const QString lower = suffix.toLower();
-    for (const auto& [name, format] : vectorFormats) {
+    for (const auto& [name, vectors] : vectorFormats) {
         if (lower == QLatin1String(name))
-            return saveVectors(plot, path, format, options);
+            return saveVectors(plot, path, vectors, options);
     }
     if (imageFormat(suffix).isEmpty())
         return failure(path, suffix.isEmpty() ? tr("its name has no suffix that tells the format")
@@ -68,7 +69,7 @@ PictureResult PictureWriter::save(BasePlot& plot, const QString& path, const Pic
     RasterPicture picture(plot, options);
     const QImage image = picture.render();
     if (!image.isNull())
-        return write(image, path, options.quality, options.backgroundFor(plot));
+        return write(image, path, options.quality, options.backgroundFor(plot), suffix);
     PictureResult result;
     result.cancelled = picture.isCancelled();
     result.message = picture.getError();
@@ -96,20 +97,20 @@ PictureResult PictureWriter::saveVectors(BasePlot& plot, const QString& path, Ve
 }
 
 PictureResult PictureWriter::write(const QImage& image, const QString& path, int quality,
-                                   const QColor& background)
+                                   const QColor& background, const QString& format)
 {
-    const QString suffix = QFileInfo(path).suffix();
-    const QByteArray format = imageFormat(suffix);
-    if (!QImageWriter::supportedImageFormats().contains(format))
+    const QString suffix = format.isEmpty() ? QFileInfo(path).suffix() : format;
+    const QByteArray written = imageFormat(suffix);
+    if (!QImageWriter::supportedImageFormats().contains(written))
         return failure(path, tr("Qt has no plugin that writes \"%1\"").arg(suffix));
     // Into memory first: plugins leave out what a device that fails does not take.
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
-    QImageWriter writer(&buffer, format);
+    QImageWriter writer(&buffer, written);
     writer.setQuality(quality);
-    if (format == "tiff")
+    if (written == "tiff")
         writer.setCompression(1);
-    const bool opaque = format == "jpeg" && image.hasAlphaChannel();
+    const bool opaque = written == "jpeg" && image.hasAlphaChannel();
     if (!writer.write(opaque ? withoutAlpha(image, background) : image))
         return failure(path, writer.errorString());
     return write(buffer.data(), path);

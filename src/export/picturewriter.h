@@ -35,11 +35,13 @@ class VORANPLOT_EXPORT PictureWriter
 
 public:
     /// The suffix of the path chooses the format: PNG, JPEG, TIFF and WebP as far as Qt has the
-    /// plugin, and as vectors PDF, SVG and EPS.
-    static PictureResult save(BasePlot& plot, const QString& path, const PictureOptions& options = {});
+    /// plugin, and as vectors PDF, SVG and EPS. \a format, one of suffixes(), is used instead where it is
+    /// given.
+    static PictureResult save(BasePlot& plot, const QString& path, const PictureOptions& options = {},
+                              const QString& format = {});
     /// Writes an image; its resolution and texts go into the file where the format has a place for them.
     static PictureResult write(const QImage& image, const QString& path, int quality = -1,
-                               const QColor& background = Qt::white);
+                               const QColor& background = Qt::white, const QString& format = {});
     /// Writes bytes.
     static PictureResult write(const QByteArray& bytes, const QString& path);
     /// The suffixes that save() writes here, the usual one of each format.

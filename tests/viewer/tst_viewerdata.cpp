@@ -9,6 +9,7 @@
 #include "recentmenu.h"
 #include "scene/coordinatesystem.h"
 #include "scene/title.h"
+#include "spectrasource.h"
 #include "startpage.h"
 #include "toroidsource.h"
 #include "viewerwindow.h"
@@ -58,6 +59,8 @@ private slots:
     void cleanup();
     void kindsFollowEachOther();
     void spectraStandInTheirOwnBox();
+    void spectraKeepTheDetailOfTimeStamps();
+    void logarithmicSpectraStandInTheirOwnBox();
     void pickNamesTheSpectrum();
     void shapesKeepTheirProportions();
     void choicesGoToTheNextPlot();
@@ -173,6 +176,35 @@ void TestViewerData::spectraStandInTheirOwnBox()
     QCOMPARE(plot.getHull().maximum.y(), 60.0F);
     QCOMPARE(axisName(plot, Zel3D::XFrontBottom), QString("Position"));
     QCOMPARE(axisName(plot, Zel3D::YRightTop), QString("sample"));
+}
+
+void TestViewerData::spectraKeepTheDetailOfTimeStamps()
+{
+    QTemporaryDir folder;
+    QFile file(folder.filePath("times.csv"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("well,1700000000,1700000001,1700000003\n1,1,2,3\n2,2,3,4\n");
+    file.close();
+    m_window->openFile(file.fileName());
+    const Zel3D::BasePlot& plot = m_window->page()->plot();
+    QCOMPARE(plot.getHull().maximum.x() - plot.getHull().minimum.x(), 3.0F);
+    QCOMPARE(plot.getDataOrigin().x + double(plot.getHull().minimum.x()), 1700000000.0);
+    const QString text = m_window->page()->source().description();
+    QVERIFY2(text.contains("1700000000 to 1700000003, values 1 to 4"), qPrintable(text));
+    QVERIFY(m_window->page()->source().describe({1700000001.0, 1.0, 2.0, true}).endsWith("at 1700000001"));
+}
+
+void TestViewerData::logarithmicSpectraStandInTheirOwnBox()
+{
+    auto source = std::make_unique<SpectraSource>(examples + "gasoline_nir.csv");
+    source->setLogarithmic({true, false, true});
+    QString error;
+    QVERIFY(m_window->present(std::move(source), error));
+    const Zel3D::Parallelepiped& box = m_window->page()->plot().getHull();
+    QCOMPARE(box.minimum.x(), std::log10(900.0F));
+    QCOMPARE(box.maximum.y(), 60.0F);
+    const QString text = m_window->page()->source().description();
+    QVERIFY2(text.contains("900 to 1700"), qPrintable(text));
 }
 
 void TestViewerData::pickNamesTheSpectrum()

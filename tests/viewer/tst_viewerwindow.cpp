@@ -8,10 +8,18 @@
 #include "viewerwindow.h"
 
 #include <QAction>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
 #include <QDropEvent>
+#include <QFileDialog>
+#include <QInputDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPushButton>
+#include <QSpinBox>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -20,6 +28,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 
 namespace {
 
@@ -78,10 +87,16 @@ private slots:
     void menuAndPlotFollowEachOther();
     void resetBringsTheStartViewBack();
     void pictureIsThePlotOnTheScreen();
+    void savedSizeIsRemembered();
+    void failedPictureSaysWhy();
+    void turntableWritesItsFrames();
+    void copyPutsThePictureOnTheClipboard();
     void windowComesBackAsItWasLeft();
 
 private:
     QAction& action(const QString& text) const;
+    /// The picture that the menu saves to a path, once the dialog was changed and accepted.
+    QImage saved(const QString& path, const std::function<void(QDialog&)>& change) const;
 
     const QString m_example = QString(VORAN_SOURCE_DIR) + "/examples/data/jacksboro_dem.asc";
     std::unique_ptr<ViewerWindow> m_window;
@@ -110,6 +125,20 @@ QAction& TestViewerWindow::action(const QString& text) const
             return *found;
     }
     qFatal("There is no action %s.", qPrintable(text));
+}
+
+QImage TestViewerWindow::saved(const QString& path, const std::function<void(QDialog&)>& change) const
+{
+    QTimer::singleShot(0, [&] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        dialog->findChild<QLineEdit*>("path")->setText(path);
+        if (change)
+            change(*dialog);
+        if (dialog->isVisible())
+            dialog->accept();
+    });
+    action("Save picture...").trigger();
+    return QImage(path);
 }
 
 void TestViewerWindow::titleAndStatusTellOfTheGrid()
@@ -198,8 +227,10 @@ void TestViewerWindow::pictureIsThePlotOnTheScreen()
 {
     ViewerPlot& plot = plotOf(*m_window);
     const QImage screen = harness::grab(plot).convertToFormat(QImage::Format_RGB32);
-    QCOMPARE(plot.picture(QSize(321, 123)).size(), QSize(321, 123));
-    const QImage picture = plot.picture(plot.size());
+    QTemporaryDir folder;
+    int number = 0;
+    const auto taken = [&] { return saved(folder.filePath(QString("%1.png").arg(++number)), {}); };
+    const QImage picture = taken();
     QCOMPARE(picture.size(), screen.size());
     // Lines and texts may be smoothed in one and not in the other.
     const double missing = std::max(missingIn(screen, picture), missingIn(picture, screen));
@@ -207,10 +238,103 @@ void TestViewerWindow::pictureIsThePlotOnTheScreen()
     // The comparison tells pictures apart.
     QVERIFY(missingIn(screen, picture.mirrored()) > 0.02);
     plot.getLegend().setVisible(false);
-    QVERIFY(missingIn(plot.picture(plot.size()), screen) > 0.02);
+    QVERIFY(missingIn(taken(), screen) > 0.02);
     plot.getLegend().setVisible(true);
     // Drawing off the screen leaves the plot on the screen as it was.
     QCOMPARE(harness::grab(plot).convertToFormat(QImage::Format_RGB32), screen);
+}
+
+void TestViewerWindow::savedSizeIsRemembered()
+{
+    QTemporaryDir folder;
+    saved(folder.filePath("first"), [](QDialog& dialog) {
+        dialog.findChild<QComboBox*>("unit")->setCurrentText("mm");
+        dialog.findChild<QSpinBox*>("resolution")->setValue(254);
+        dialog.findChild<QDoubleSpinBox*>("width")->setValue(30.0);
+        dialog.findChild<QDoubleSpinBox*>("height")->setValue(20.0);
+        dialog.findChild<QCheckBox*>()->setChecked(true);
+    });
+    // The format that was chosen gives the suffix.
+    const QImage image(folder.filePath("first.png"));
+    QCOMPARE(image.size(), QSize(300, 200));
+    QCOMPARE(image.dotsPerMeterX(), 10000);
+    QCOMPARE(qAlpha(image.pixel(0, 0)), 0);
+    QVERIFY(m_window->statusBar()->currentMessage().contains("first.png"));
+    const QImage second = saved(folder.filePath("second.tif"), {});
+    QCOMPARE(second.size(), QSize(300, 200));
+}
+
+void TestViewerWindow::failedPictureSaysWhy()
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath("missing/picture.svg");
+    QString text;
+    QTimer box;
+    connect(&box, &QTimer::timeout, [&text] {
+        if (auto* found = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            text = found->text();
+            found->accept();
+        }
+    });
+    box.start(50);
+    saved(path, {});
+    QVERIFY2(text.contains("picture.svg") && text.contains("does not exist"), qPrintable(text));
+    QVERIFY(QDir(folder.path()).isEmpty());
+
+    // A file that is there stays without a yes.
+    QFile kept(folder.filePath("kept.png"));
+    QVERIFY(kept.open(QIODevice::WriteOnly) && kept.write("old") == 3);
+    kept.close();
+    text.clear();
+    saved(kept.fileName(), [](QDialog& dialog) {
+        QTimer::singleShot(0, [] {
+            auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (question != nullptr)
+                question->button(QMessageBox::No)->click();
+        });
+        dialog.accept();
+        QVERIFY(dialog.isVisible());
+        dialog.reject();
+    });
+    QVERIFY(kept.open(QIODevice::ReadOnly));
+    QCOMPARE(kept.readAll(), QByteArray("old"));
+}
+
+void TestViewerWindow::turntableWritesItsFrames()
+{
+    QTemporaryDir folder;
+    const QImage before = harness::grab(plotOf(*m_window));
+    QTimer answers;
+    connect(&answers, &QTimer::timeout, [&folder] {
+        QWidget* const shown = QApplication::activeModalWidget();
+        if (auto* file = qobject_cast<QFileDialog*>(shown)) {
+            file->findChild<QLineEdit*>()->setText(folder.filePath("turn.png"));
+            static_cast<QDialog*>(file)->accept();
+        } else if (auto* number = qobject_cast<QInputDialog*>(shown)) {
+            number->setIntValue(2);
+            number->accept();
+        }
+    });
+    answers.start(50);
+    action("Save turntable...").trigger();
+    answers.stop();
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files), (QStringList{"turn0001.png", "turn0002.png"}));
+    const QImage first(folder.filePath("turn0001.png"));
+    QVERIFY(missingIn(before, first) < 0.005);
+    QVERIFY(missingIn(before, QImage(folder.filePath("turn0002.png"))) > 0.02);
+    QCOMPARE(harness::grab(plotOf(*m_window)), before);
+}
+
+void TestViewerWindow::copyPutsThePictureOnTheClipboard()
+{
+    QGuiApplication::clipboard()->clear();
+    action("Copy picture").trigger();
+    const QImage copied = QGuiApplication::clipboard()->image();
+    QCOMPARE(copied.size(), plotOf(*m_window).size());
+    QVERIFY(missingIn(harness::grab(plotOf(*m_window)), copied) < 0.005);
+    m_window->closePlot();
+    for (const char* text : {"Save picture...", "Save turntable...", "Print...", "Copy picture"})
+        QVERIFY2(!action(text).isEnabled(), text);
 }
 
 void TestViewerWindow::windowComesBackAsItWasLeft()

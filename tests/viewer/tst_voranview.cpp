@@ -4,6 +4,7 @@
 #include <QProcess>
 #include <QSet>
 #include <QTemporaryDir>
+#include <QXmlStreamReader>
 #include <QtTest>
 
 namespace {
@@ -82,6 +83,9 @@ private slots:
     void pictureHasTheSizeAndTheRelief();
     void everyKindMakesAPicture_data();
     void everyKindMakesAPicture();
+    void everyFormatIsWrittenInOneRun();
+    void optionsChangeThePicture_data();
+    void optionsChangeThePicture();
     void notesGoToTheErrors();
     void stylesDiffer();
     void looksDiffer();
@@ -152,6 +156,17 @@ void TestVoranview::refusalsAreOneSentence_data()
     refusal("range for a file", {"--range", "-3:3", example}, "--range is for a formula");
     refusal("mesh for a file", {"--mesh", "20", example}, "--mesh is for a formula");
     refusal("band of spectra", {"--band", "1", examples + "gasoline_nir.csv"}, "--band is for grid files");
+    refusal("view of another name", {"--view", "above", example},
+            "one of top, bottom, left, right, front, back");
+    refusal("view with two angles", {"--view", "10,20", example}, "\"10,20\"");
+    refusal("view beyond a turn", {"--view", "10,20,361", example}, "\"10,20,361\"");
+    refusal("view of nothing", {"--view", "top"}, "--view needs a file or a formula");
+    refusal("unknown gradient", {"--gradient", "fancy", example}, "\"fancy\"; the gradients are ");
+    refusal("two axes", {"--axes", "a,b", example}, "\"a,b\" are not three");
+    refusal("logarithmic w", {"--log", "x,w", example}, "\"x,w\"");
+    refusal("logarithmic mesh", {"--log", "z", examples + "bunny.off"}, "a mesh is named");
+    refusal("transparent window", {"--transparent", example}, "--transparent is for pictures");
+    refusal("picture without a name", {"--svg", "", example}, "--svg names no picture");
     QTest::newRow("mesh larger than memory")
         << QStringList{"--function", "x", "--mesh", "900000x900000", "--png", picture} << Screen::Virtual
         << "of memory for 900000 x 900000 nodes";
@@ -213,6 +228,68 @@ void TestVoranview::everyKindMakesAPicture()
         (500.0 * 400.0);
     QVERIFY2(part > coloured, qPrintable(QString::number(part)));
     QVERIFY(QFile::remove(path));
+}
+
+void TestVoranview::everyFormatIsWrittenInOneRun()
+{
+    // The option tells the format, not the name.
+    const QList<QPair<QString, QByteArray>> formats{
+        {"png", "\x89PNG"}, {"jpeg", "\xff\xd8\xff"}, {"svg", "<?xml"}, {"pdf", "%PDF"}, {"eps", "%!PS"}};
+    QStringList arguments{"--function", "x*y", "--mesh", "12", "--size", "300x200", "--axes", "east,,up"};
+    arguments << "--transparent";
+    for (const auto& format : formats)
+        arguments << "--" + format.first << m_folder.filePath(format.first + ".out");
+    const Outcome outcome = runViewer(arguments);
+    QCOMPARE(outcome.errors, QString());
+    QCOMPARE(outcome.status, 0);
+    QMap<QString, QByteArray> files;
+    for (const auto& format : formats) {
+        QFile file(m_folder.filePath(format.first + ".out"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        files[format.first] = file.readAll();
+        QVERIFY2(files[format.first].startsWith(format.second), qPrintable(format.first));
+        QVERIFY(file.remove());
+    }
+    QCOMPARE(qAlpha(QImage::fromData(files["png"]).pixel(0, 0)), 0);
+    QCOMPARE(QImage::fromData(files["jpeg"]).size(), QSize(300, 200));
+    QStringList texts;
+    QXmlStreamReader svg(files["svg"]);
+    while (!svg.atEnd()) {
+        svg.readNext();
+        texts.append(svg.isCharacters() ? svg.text().toString().trimmed() : QString());
+    }
+    QVERIFY2(!svg.hasError(), qPrintable(svg.errorString()));
+    for (const char* text : {"x*y", "east", "up"})
+        QVERIFY2(texts.contains(text), qPrintable(texts.join(' ')));
+}
+
+void TestVoranview::optionsChangeThePicture_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QStringList>("same"); // arguments that give the same picture, where others do
+    QTest::newRow("view") << QStringList{"--view", "TOP"} << QStringList{"--view", "90,0,0"};
+    QTest::newRow("gradient") << QStringList{"--gradient", "viridis"} << QStringList{"--gradient", "Viridis"};
+    QTest::newRow("logarithmic") << QStringList{"--log", "x,z"} << QStringList{"--log", "z,X"};
+    QTest::newRow("axes") << QStringList{"--axes", "a,,"} << QStringList{"--axes", "a,y,z"};
+}
+
+void TestVoranview::optionsChangeThePicture()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QStringList, same);
+    const auto picture = [this](const QStringList& options) {
+        const QString path = m_folder.filePath("option.png");
+        const Outcome outcome = runViewer(QStringList{"--function", "x*y", "--range", "1:100", "--mesh", "20",
+                                                      "--size", "300x200", "--png", path} +
+                                          options);
+        const QImage image(path);
+        QFile::remove(path);
+        return outcome.status == 0 ? image : QImage();
+    };
+    const QImage changed = picture(arguments);
+    QVERIFY(!changed.isNull());
+    QVERIFY(changed != picture({}));
+    QCOMPARE(picture(same), changed);
 }
 
 void TestVoranview::notesGoToTheErrors()
