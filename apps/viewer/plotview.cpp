@@ -5,6 +5,9 @@
 #include "plots/viewfit.h"
 #include "scene/coordinatesystem.h"
 
+#include <QCryptographicHash>
+#include <QSettings>
+
 #include <algorithm>
 
 namespace {
@@ -17,6 +20,11 @@ constexpr double startShift = -0.06;
 
 // Smoothed edges cost four times the memory; beyond this many pixels they are not seen.
 constexpr qint64 mostSmoothedPixels = 32 * 1000 * 1000;
+
+constexpr int digestLetters = 16;
+
+const QString lookKey = QStringLiteral("%1/look");
+const QString fittedKey = QStringLiteral("%1/fitted");
 
 } // namespace
 
@@ -82,4 +90,41 @@ int PlotView::pictureSamples(const QSize& pixels, const QGLFormat& format)
 {
     const bool smoothed = qint64(pixels.width()) * pixels.height() <= mostSmoothedPixels;
     return smoothed ? std::max(0, format.samples()) : 0;
+}
+
+void PlotView::setSubject(const QString& subject)
+{
+    // Paths are no part of a key: they hold slashes.
+    const QByteArray digest = QCryptographicHash::hash(subject.toUtf8(), QCryptographicHash::Sha1);
+    m_storeName = QStringLiteral("plot-") + QString::fromLatin1(digest.toHex().left(digestLetters));
+}
+
+bool PlotView::isKept()
+{
+    const QSettings store(plot().getOrganization(), plot().getApplication());
+    return store.contains(lookKey.arg(m_storeName));
+}
+
+void PlotView::keepOwn()
+{
+    QSettings store(plot().getOrganization(), plot().getApplication());
+    store.setValue(lookKey.arg(m_storeName), m_look.name);
+    store.setValue(fittedKey.arg(m_storeName), plot().getZoom() == m_fittedZoom);
+}
+
+void PlotView::restoreKept()
+{
+    if (!isKept())
+        return;
+    const QSettings store(plot().getOrganization(), plot().getApplication());
+    // The look first: of what it sets, only what differed from a new plot was saved.
+    const QString name = store.value(lookKey.arg(m_storeName)).toString();
+    const QList<Zel3D::Look> looks = Zel3D::Look::all();
+    for (const Zel3D::Look& look : looks) {
+        if (look.name == name)
+            setLook(look);
+    }
+    loadKept();
+    if (store.value(fittedKey.arg(m_storeName)).toBool())
+        fit();
 }
