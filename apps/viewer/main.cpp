@@ -10,6 +10,7 @@
 #include "viewerwindow.h"
 
 #include <QApplication>
+#include <QLoggingCategory>
 
 #include <cstdio>
 
@@ -22,6 +23,13 @@ void describeApplication()
     QCoreApplication::setOrganizationName("VORAN");
     QCoreApplication::setApplicationName("voranview");
     QCoreApplication::setApplicationVersion(VORANVIEW_VERSION);
+}
+
+/// The library tells its steps as debug messages, which say nothing to a person who looks at data.
+void silenceDebugMessages()
+{
+    if (!qEnvironmentVariableIsSet("VORAN_DEBUG"))
+        QLoggingCategory::setFilterRules("default.debug=false");
 }
 
 int refuse(const QString& sentence)
@@ -114,6 +122,11 @@ int showWindow(const CommandLine& wanted)
         if (!window.present(sourceOf(wanted), error))
             return refuse(error);
         tellNotes(window.page()->source());
+        // Over what was kept of the data.
+        if (wanted.look())
+            window.page()->view().setLook(*wanted.look());
+        if (wanted.style())
+            window.page()->plot().setPlotStyle(*wanted.style());
     }
     if (window.page() && !dress(window.page()->view(), wanted, error))
         return refuse(error);
@@ -128,6 +141,7 @@ int showWindow(const CommandLine& wanted)
 int main(int argc, char* argv[])
 {
     describeApplication();
+    silenceDebugMessages();
     CommandLine wanted;
     {
         const QCoreApplication application(argc, argv);

@@ -34,6 +34,7 @@ PlotMenu::PlotMenu(QMenu& menu, PlotPage& page, QObject* parent) : QObject(paren
     addScaling(*addSubmenu(tr("&Scaling")));
     addLooks(*addSubmenu(tr("Loo&k")));
     addTemplates();
+    addSettings();
     if (page.source().simulation() != nullptr)
         addSimulation();
 }
@@ -160,6 +161,16 @@ void PlotMenu::addTemplates()
         if (auto* window = qobject_cast<QMainWindow*>(m_page.window()))
             window->statusBar()->showMessage(sentence, messageTime);
     });
+}
+
+void PlotMenu::addSettings()
+{
+    auto* action = new QAction(QIcon(":/plot/images/settings.svg"), tr("Settin&gs..."), this);
+    action->setMenuRole(QAction::NoRole);
+    action->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_Comma));
+    action->setStatusTip(tr("Everything that can be changed of this plot"));
+    connect(action, &QAction::triggered, &m_page.plot(), &BasePlot::slotSettingsDialog);
+    m_menu.addAction(action);
 }
 
 void PlotMenu::addSimulation()

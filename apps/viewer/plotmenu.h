@@ -31,6 +31,7 @@ private:
     void addScaling(QMenu& menu);
     void addLooks(QMenu& menu);
     void addTemplates();
+    void addSettings();
     void addSimulation();
 
     QMenu& m_menu;

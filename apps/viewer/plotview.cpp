@@ -5,6 +5,9 @@
 #include "plots/viewfit.h"
 #include "scene/coordinatesystem.h"
 
+#include <QCryptographicHash>
+#include <QSettings>
+
 #include <algorithm>
 
 namespace {
@@ -14,6 +17,11 @@ constexpr double startPart = 0.68;
 
 // In radii of the view: to the left, where no legend stands.
 constexpr double startShift = -0.06;
+
+constexpr int digestLetters = 16;
+
+const QString lookKey = QStringLiteral("%1/look");
+const QString fittedKey = QStringLiteral("%1/fitted");
 
 } // namespace
 
@@ -74,5 +82,42 @@ void PlotView::fit()
 void PlotView::refit()
 {
     if (plot().getZoom() == m_fittedZoom)
+        fit();
+}
+
+void PlotView::setSubject(const QString& subject)
+{
+    // Paths are no part of a key: they hold slashes.
+    const QByteArray digest = QCryptographicHash::hash(subject.toUtf8(), QCryptographicHash::Sha1);
+    m_storeName = QStringLiteral("plot-") + QString::fromLatin1(digest.toHex().left(digestLetters));
+}
+
+bool PlotView::isKept()
+{
+    const QSettings store(plot().getOrganization(), plot().getApplication());
+    return store.contains(lookKey.arg(m_storeName));
+}
+
+void PlotView::keepOwn()
+{
+    QSettings store(plot().getOrganization(), plot().getApplication());
+    store.setValue(lookKey.arg(m_storeName), m_look.name);
+    store.setValue(fittedKey.arg(m_storeName), plot().getZoom() == m_fittedZoom);
+}
+
+void PlotView::restoreKept()
+{
+    if (!isKept())
+        return;
+    const QSettings store(plot().getOrganization(), plot().getApplication());
+    // The look first: of what it sets, only what differed from a new plot was saved.
+    const QString name = store.value(lookKey.arg(m_storeName)).toString();
+    const QList<Zel3D::Look> looks = Zel3D::Look::all();
+    for (const Zel3D::Look& look : looks) {
+        if (look.name == name)
+            setLook(look);
+    }
+    loadKept();
+    if (store.value(fittedKey.arg(m_storeName)).toBool())
         fit();
 }

@@ -39,9 +39,23 @@ public:
     /// The names on every edge of x, y and z; an empty one leaves that axis as it is.
     void nameAxes(const std::array<QString, 3>& names);
 
+    /// The name of what is shown, such as a path. Under it the settings that the person saves are kept, apart
+    /// from those of other data.
+    void setSubject(const QString& subject);
+    /// Whether the settings of the subject have ever been saved.
+    bool isKept();
+    /// Makes the plot what it was when its settings were saved last; nothing when they never were.
+    void restoreKept();
+
 protected:
     /// Fills the window again, unless the person has zoomed.
     void refit();
+    /// What the settings of the subject are kept under.
+    const QString& storeName() const { return m_storeName; }
+    /// Keeps what the viewer adds to the settings of the plot.
+    void keepOwn();
+    /// Loads the settings of the plot.
+    virtual void loadKept() = 0;
 
 private:
     void fit();
@@ -51,4 +65,5 @@ private:
     QLinearGradient m_gradient;
     Zel3D::ValueXYZ<double> m_rotation;
     double m_fittedZoom = 0.0;
+    QString m_storeName = QStringLiteral("plot");
 };

@@ -13,11 +13,34 @@ public:
     }
 
     Zel3D::BasePlot& plot() override { return *this; }
+    /// The dialog keeps its own place under the name that all plots share.
+    void slotSaveSettings() override
+    {
+        underStoreName([this] { Plot::slotSaveSettings(); });
+        keepOwn();
+    }
 
 protected:
+    void loadKept() override
+    {
+        underStoreName([this] {
+            this->slotLoadSettings();
+            this->loadAxesSettings();
+        });
+    }
     void resizeEvent(QResizeEvent* event) override
     {
         refit();
         Plot::resizeEvent(event);
+    }
+
+private:
+    template <class Action>
+    void underStoreName(const Action& action)
+    {
+        const QString shared = this->objectName();
+        this->setObjectName(storeName());
+        action();
+        this->setObjectName(shared);
     }
 };

@@ -33,6 +33,7 @@ constexpr char geometryKey[] = "window/geometry";
 constexpr QSize usualSize(1000, 800);
 constexpr char folderKey[] = "window/folder";
 constexpr char stateKey[] = "window/state";
+constexpr char statusBarKey[] = "window/statusBar";
 
 QIcon icon(const char* name)
 {
@@ -43,6 +44,13 @@ QString droppedFile(const QMimeData& data)
 {
     const QList<QUrl> urls = data.urls();
     return urls.size() == 1 ? urls.first().toLocalFile() : QString();
+}
+
+/// What tells a source from others, over restarts of the program.
+QString subjectOf(const PlotSource& source)
+{
+    const QString file = source.filePath();
+    return file.isEmpty() ? source.name() : QFileInfo(file).absoluteFilePath() + ' ' + source.name();
 }
 
 /// The waiting cursor while the object lives.
@@ -94,19 +102,29 @@ void ViewerWindow::restore()
     if (!restoreGeometry(settings.value(geometryKey).toByteArray()))
         resize(usualSize.boundedTo(QGuiApplication::primaryScreen()->availableSize()));
     m_barState = settings.value(stateKey).toByteArray();
+    m_statusAction->setChecked(settings.value(statusBarKey, true).toBool());
     m_fullScreenAction->setChecked(isFullScreen());
+}
+
+void ViewerWindow::takeFromPage()
+{
+    if (!m_page)
+        return;
+    m_preferences.takeFrom(m_page->view());
+    m_barState = saveState();
+    // What was changed after the last save belongs to it: a look from the menu, the view.
+    if (m_page->view().isKept())
+        m_page->plot().slotSaveSettings();
 }
 
 void ViewerWindow::remember()
 {
-    if (m_page) {
-        m_preferences.takeFrom(m_page->view());
-        m_barState = saveState();
-    }
+    takeFromPage();
     m_preferences.store();
     QSettings settings;
     settings.setValue(geometryKey, saveGeometry());
     settings.setValue(stateKey, m_barState);
+    settings.setValue(statusBarKey, m_statusAction->isChecked());
 }
 
 void ViewerWindow::createFileMenu()
@@ -153,7 +171,6 @@ void ViewerWindow::createViewMenu()
         return action;
     };
     m_statusAction = addSwitch(tr("&Status bar"));
-    m_statusAction->setChecked(true);
     connect(m_statusAction, &QAction::triggered, this, [this](bool on) { statusBar()->setVisible(on); });
     m_fullScreenAction = addSwitch(tr("F&ull screen"));
     m_fullScreenAction->setShortcut(QKeySequence(Qt::Key_F11));
@@ -170,10 +187,7 @@ void ViewerWindow::showFullScreen(bool on)
 
 void ViewerWindow::removePage()
 {
-    if (m_page) {
-        m_preferences.takeFrom(m_page->view());
-        m_barState = saveState();
-    }
+    takeFromPage();
     m_host.reset();
     m_page.reset();
     m_plotMenu->menuAction()->setEnabled(false);
@@ -188,6 +202,8 @@ void ViewerWindow::placePage(std::unique_ptr<PlotPage> page)
     removePage();
     m_page = std::move(page);
     m_preferences.applyTo(m_page->view());
+    m_page->view().setSubject(subjectOf(m_page->source()));
+    m_page->view().restoreKept();
     m_bindings->attach(&m_page->plot());
     m_stack->addWidget(m_page.get());
     m_host = std::make_unique<PlotHost>(*this, *m_page, *m_plotMenu, *m_viewMenu, m_statusAction);

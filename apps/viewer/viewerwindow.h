@@ -54,6 +54,7 @@ private:
     void createStartPage();
     void placePage(std::unique_ptr<PlotPage> page);
     void removePage();
+    void takeFromPage();
     void showPlot(std::unique_ptr<PlotSource> source);
     void showFullScreen(bool on);
     void restore();

@@ -17,6 +17,7 @@ void bringBack(Zel3D::BasePlot& plot)
     //! [loading]
     Zel3D::Look::light().applyTo(plot); // what people have not changed
     plot.slotLoadSettings();
+    plot.loadAxesSettings();
     plot.update();
     //! [loading]
 }

@@ -16,6 +16,9 @@ constexpr int axisCount = 12;
 constexpr double majorTic = 0.012;
 constexpr double minorTic = 0.007;
 
+/// A part of the depth range, larger than what rounding makes of the depths of two lines on one edge.
+constexpr double nearer = 5e-4;
+
 /// The order in which the axes get their highlight boxes.
 constexpr std::array<AxisType, axisCount> highlightOrder{XFrontBottom, YLeftBottom, ZBackLeft,    XFrontTop,
                                                          XBackTop,     XBackBottom, YRightBottom, YRightTop,
@@ -44,6 +47,23 @@ void emitLine(const QVector3D& from, const QVector3D& offset)
     glVertex3d(double(to.x()), double(to.y()), double(to.z()));
 }
 
+/// For a scope, draws a little nearer to the eye than is true.
+class NearerScope
+{
+public:
+    NearerScope()
+    {
+        glGetDoublev(GL_DEPTH_RANGE, range);
+        glDepthRange(range[0], range[1] - nearer * (range[1] - range[0]));
+    }
+    ~NearerScope() { glDepthRange(range[0], range[1]); }
+    NearerScope(const NearerScope&) = delete;
+    NearerScope& operator=(const NearerScope&) = delete;
+
+private:
+    double range[2] = {0.0, 1.0};
+};
+
 double usableScale(double value)
 {
     return std::isfinite(value) && value > 0.0 ? value : 1.0;
@@ -71,6 +91,8 @@ void CoordinateSystem::draw()
     arrange();
     {
         const GLMode smoothing(GL_LINE_SMOOTH, settings.isLineSmooth(), false);
+        // The first and the last grid lines lie on the edges of the box; they must not cut up the axes there.
+        const NearerScope beforeTheGrid;
         BaseDraw::draw();
     }
     if (highlight)

@@ -33,11 +33,11 @@ constexpr Plane planes[] = {
 
 QVector<Field::Offer> lineStyles()
 {
-    return {{GridPage::tr("Solid"), lineStylePattern(0)},
-            {GridPage::tr("Dashes"), lineStylePattern(1)},
-            {GridPage::tr("Dots"), lineStylePattern(2)},
-            {GridPage::tr("Dash and dot"), lineStylePattern(3)},
-            {GridPage::tr("Dash and two dots"), lineStylePattern(4)}};
+    return {{GridPage::tr("SolidLine"), lineStylePattern(0)},
+            {GridPage::tr("DashLine"), lineStylePattern(1)},
+            {GridPage::tr("DotLine"), lineStylePattern(2)},
+            {GridPage::tr("DashDotLine"), lineStylePattern(3)},
+            {GridPage::tr("DashDotDotLine"), lineStylePattern(4)}};
 }
 
 QVector<Field> planeFields(BasePlot& plot)

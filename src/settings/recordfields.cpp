@@ -14,9 +14,9 @@ struct Words
 /// In the order of their values.
 QStringList alignments()
 {
-    return {Words::tr("Top left"),    Words::tr("Top center"),    Words::tr("Top right"),
-            Words::tr("Center left"), Words::tr("Automatic"),     Words::tr("Center right"),
-            Words::tr("Bottom left"), Words::tr("Bottom center"), Words::tr("Bottom right")};
+    return {Words::tr("TopLeft"),    Words::tr("TopCenter"),    Words::tr("TopRight"),
+            Words::tr("CenterLeft"), Words::tr("Automatic"),    Words::tr("CenterRight"),
+            Words::tr("BottomLeft"), Words::tr("BottomCenter"), Words::tr("BottomRight")};
 }
 
 } // namespace

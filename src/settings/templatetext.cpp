@@ -47,11 +47,12 @@ const QVector<Names>& knownNames()
         {ids("lighting/light\\d+/type"), {"directional", "dotted", "spot"}},
         {ids(".*/tics/style"), {"out", "both"}},
         {ids(".*/alignment"),
-         {"top left", "top center", "top right", "center left", "automatic", "center right", "bottom left",
-          "bottom center", "bottom right"}},
+         {"topleft", "topcenter", "topright", "centerleft", "automatic", "centerright", "bottomleft",
+          "bottomcenter", "bottomright"}},
         {ids(".*/arrow/style"), {"filled", "outline", "points", "lines"}},
         {ids(".*/arrow/size"), {"small", "normal", "large"}},
-        {ids("grid/(major|minor)Style"), {"solid", "dashes", "dots", "dash and dot", "dash and two dots"}},
+        {ids("grid/(major|minor)Style"),
+         {"solidline", "dashline", "dotline", "dashdotline", "dashdotdotline"}},
     };
     return all;
 }

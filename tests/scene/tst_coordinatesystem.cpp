@@ -107,6 +107,7 @@ private slots:
     void gridLines_data();
     void gridLines();
     void gridLinesFollowTheirSettings();
+    void gridLinesLeaveTheAxesWhole();
     void gridTicksAndAxesStayInAFlatBox();
     void lineWidthsStayInOrder();
     void lineStyles_data();
@@ -351,6 +352,40 @@ void TestCoordinateSystem::gridTicksAndAxesStayInAFlatBox()
     }
     box.init(QVector3D(0, 0, float(qQNaN())), QVector3D(1, 1, 1));
     harness::grab(canvas);
+}
+
+void TestCoordinateSystem::gridLinesLeaveTheAxesWhole()
+{
+    CoordinateSystem box(QVector3D(-1.7F, 0.3F, -2.1F), QVector3D(3.1F, 5.9F, 4.3F));
+    for (int i = 0; i < 12; ++i) {
+        Axis& axis = box.getAxis(AxisType(i));
+        axis.getSettings().getLine().setVisible(true);
+        axis.getSettings().getLine().setColor(Qt::black);
+        axis.getLabel().setVisible(false);
+    }
+    prepare(box);
+    box.getSettings().setLineSmooth(false);
+    box.getSettings().setGridColor(Qt::red);
+    const auto blackPixels = [&](double turn, int grid) {
+        box.getSettings().setGridStyle(grid);
+        paintBox(box, {25.0, turn}, false);
+        const QImage picture = harness::grab(canvas).convertToFormat(QImage::Format_RGB32);
+        int count = 0;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x)
+                count += qGray(picture.pixel(x, y)) < 20 ? 1 : 0;
+        }
+        return count;
+    };
+    int all = 0;
+    int seen = 0;
+    for (double turn = 5.0; turn < 360.0; turn += 37.0) {
+        all += blackPixels(turn, 0);
+        // Seen from above, the bottom covers no edge.
+        seen += blackPixels(turn, GridBottom);
+    }
+    QVERIFY(all > 5000);
+    QVERIFY2((all - seen) * 200 < all, qPrintable(QString("%1 of %2").arg(seen).arg(all)));
 }
 
 void TestCoordinateSystem::lineWidthsStayInOrder()

@@ -247,7 +247,8 @@ void TestPlotTemplate::damageIsNamed()
     const QByteArray before = "[common]\nbackground=#102030\n";
     const QByteArray behind = lines.endsWith('\n') ? "[axes]\naxis0\\line\\width=2.5\n" : "";
     if (behind.isEmpty())
-        expected["axes/axis0/line/width"] = PlotTemplate::of(*plot).getEntries().value("axes/axis0/line/width");
+        expected["axes/axis0/line/width"] =
+            PlotTemplate::of(*plot).getEntries().value("axes/axis0/line/width");
     writeFile(path(), head + "\n" + before + lines + behind);
 
     PlotTemplate look;

@@ -78,6 +78,8 @@ private slots:
     void cancelRestoresEverything();
     void fieldsAreNamed_data() { pageRows(); }
     void fieldsAreNamed();
+    void choicesOffer_data();
+    void choicesOffer();
     void nothingIsCut_data();
     void nothingIsCut();
     void everythingIsThereAfterARestart_data();
@@ -240,6 +242,41 @@ void TestSettingsPages::fieldsAreNamed()
         ++visited;
     }
     QVERIFY(visited > 2);
+}
+
+void TestSettingsPages::choicesOffer_data()
+{
+    QTest::addColumn<QString>("id");
+    QTest::addColumn<QString>("texts");
+    QTest::newRow("projection") << "common/projection"
+                                << "Orthogonal Perspective";
+    QTest::newRow("shading") << "common/shading"
+                             << "Flat Smooth";
+    QTest::newRow("contour") << "common/contour"
+                             << "None Top Bottom";
+    QTest::newRow("scale") << "scales/x/type"
+                           << "Linear Logarithmic";
+    QTest::newRow("ticks") << "axes/axis0/tics/style"
+                           << "Out Both";
+    QTest::newRow("alignment") << "axes/axis0/numbers/alignment"
+                               << "TopLeft TopCenter TopRight CenterLeft Automatic CenterRight BottomLeft "
+                                  "BottomCenter BottomRight";
+    QTest::newRow("lines") << "grid/majorStyle"
+                           << "SolidLine DashLine DotLine DashDotLine DashDotDotLine";
+    QTest::newRow("legend") << "legend/position"
+                            << "Top Bottom Left Right";
+    QTest::newRow("light") << "lighting/light0/type"
+                           << "Directional Dotted Spot";
+}
+
+void TestSettingsPages::choicesOffer()
+{
+    QFETCH(QString, id);
+    QFETCH(QString, texts);
+    QStringList offered;
+    for (const Field::Offer& offer : session().dialog.getBinder().getField(id).offers)
+        offered.append(offer.text);
+    QCOMPARE(offered.join(' '), texts);
 }
 
 void TestSettingsPages::nothingIsCut_data()

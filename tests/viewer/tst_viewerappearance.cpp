@@ -1,9 +1,13 @@
 // Templates and gestures in the viewer.
 
+#include "formulasource.h"
 #include "harness/harness.h"
 #include "plotpage.h"
 #include "plots/baseplot.h"
+#include "scene/coordinatesystem.h"
+#include "scene/title.h"
 #include "settings/bindingsdialog.h"
+#include "settings/plotsettingsdialog.h"
 #include "toroidsource.h"
 #include "viewerbindings.h"
 #include "viewerplot.h"
@@ -49,9 +53,11 @@ class TestViewerAppearance : public QObject
 {
     Q_OBJECT
 private slots:
-    void cleanup() { QSettings().clear(); }
+    void cleanup();
     void gesturesAreKeptAndReachEveryPlot();
     void dialogKnowsTheShortcuts();
+    void settingsOpenFromTheMenu();
+    void editsComeBackWithTheirData();
     void templateOnTheCommandLine_data();
     void templateOnTheCommandLine();
 };
@@ -115,6 +121,68 @@ void TestViewerAppearance::dialogKnowsTheShortcuts()
     QCOMPARE(note, QString());
     QCOMPARE(PlotBindings::of(window.page()->plot()).gesture(zoomIn()), pageUp);
     QCOMPARE(QSettings().value("bindings/key/zoomIn").toString(), QString("PgUp"));
+}
+
+void TestViewerAppearance::settingsOpenFromTheMenu()
+{
+    ViewerWindow window;
+    showToroid(window);
+    window.show();
+    bool opened = false;
+    QTimer::singleShot(0, &window, [&] {
+        opened = Zel3D::PlotSettingsDialog::of(window.page()->plot()) != nullptr;
+        // The dialog goes with its plot, and so does the entry of the menu that opened it.
+        window.closePlot();
+    });
+    for (QAction* action : window.findChildren<QAction*>()) {
+        if (action->text() == "Settin&gs...") {
+            action->trigger();
+            break;
+        }
+    }
+    QVERIFY(opened);
+}
+
+void TestViewerAppearance::editsComeBackWithTheirData()
+{
+    const QColor red(200, 10, 20);
+    const auto axis = [](ViewerWindow& window) -> Zel3D::Axis& {
+        return window.page()->plot().getCoordinateSystem().getAxis(Zel3D::XFrontBottom);
+    };
+    {
+        ViewerWindow window;
+        showToroid(window);
+        Zel3D::BasePlot& plot = window.page()->plot();
+        Zel3D::PlotSettingsDialog dialog(nullptr, plot.getOrganization(), plot.getApplication(), &plot);
+        dialog.getBinder().edit("title/text", "Ring");
+        dialog.getBinder().edit("axes/axis0/line/color", red);
+        dialog.accept();
+        // Whatever is chosen later goes with it.
+        window.page()->view().setLook(Zel3D::Look::dark());
+        plot.setRotation({10.0, 0.0, 20.0});
+        window.close();
+    }
+    ViewerWindow again;
+    showToroid(again);
+    QCOMPARE(again.page()->plot().getTitle().getSettings().getText(), QString("Ring"));
+    QCOMPARE(again.page()->plot().getBackgroundColor(), Zel3D::Look::dark().background);
+    QCOMPARE(axis(again).getSettings().getLine().getColor(), Zel3D::Look::dark().ink);
+    QCOMPARE(again.page()->plot().getRotation().z, 20.0);
+    axis(again).getSettings().getLine().setColor(red);
+    again.page()->plot().slotSaveSettings();
+    // Other data have settings of their own; coming back to the first finds its last.
+    QString error;
+    QVERIFY(again.present(std::make_unique<FormulaSource>("x*y", FormulaArea()), error));
+    QCOMPARE(again.page()->plot().getTitle().getSettings().getText(), QString("x*y"));
+    QVERIFY(axis(again).getSettings().getLine().getColor() != red);
+    showToroid(again);
+    QCOMPARE(axis(again).getSettings().getLine().getColor(), red);
+}
+
+void TestViewerAppearance::cleanup()
+{
+    QSettings().clear();
+    QSettings("VORAN", "voranview").clear();
 }
 
 void TestViewerAppearance::templateOnTheCommandLine_data()

@@ -344,6 +344,7 @@ void TestViewerWindow::windowComesBackAsItWasLeft()
     action("Dark").trigger();
     plotOf(*m_window).slotSetPlotStyle(PlotStyles::Wireframe);
     plotOf(*m_window).getToolBar(Zel3D::ViewsToolBar)->setVisible(false);
+    action("Status bar").trigger();
     m_window->addToolBar(Qt::LeftToolBarArea, plotOf(*m_window).getToolBar(Zel3D::PlotStyleToolBar));
     m_window->close();
     ViewerWindow again;
@@ -354,6 +355,7 @@ void TestViewerWindow::windowComesBackAsItWasLeft()
     QCOMPARE(plotOf(again).plotStyle(), int(PlotStyles::Wireframe));
     QCOMPARE(plotOf(again).getBackgroundColor(), Zel3D::Look::dark().background);
     QVERIFY(!plotOf(again).getToolBar(Zel3D::ViewsToolBar)->isVisible());
+    QVERIFY(!again.statusBar()->isVisible());
     QCOMPARE(again.toolBarArea(plotOf(again).getToolBar(Zel3D::PlotStyleToolBar)), Qt::LeftToolBarArea);
 }
 

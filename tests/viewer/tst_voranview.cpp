@@ -79,6 +79,7 @@ private slots:
     void wordsNeedNoDisplay();
     void refusalsAreOneSentence_data();
     void refusalsAreOneSentence();
+    void debugMessagesAreForThoseWhoAsk();
     void pictureHasTheSizeAndTheRelief_data();
     void pictureHasTheSizeAndTheRelief();
     void everyKindMakesAPicture_data();
@@ -309,6 +310,19 @@ void TestVoranview::pictureHasTheSizeAndTheRelief_data()
     QTest::newRow("usual") << QSize(800, 600);
     QTest::newRow("small") << QSize(300, 200);
     QTest::newRow("wider than the screen") << QSize(2500, 400);
+}
+
+void TestVoranview::debugMessagesAreForThoseWhoAsk()
+{
+    const QStringList mesh{examples + "bunny.off", "--png", m_folder.filePath("mesh.png"), "--size", "99x99"};
+    const Outcome usual = runViewer(mesh);
+    qputenv("VORAN_DEBUG", "1");
+    const Outcome asked = runViewer(mesh);
+    qunsetenv("VORAN_DEBUG");
+    QFile::remove(m_folder.filePath("mesh.png"));
+    QCOMPARE(usual.status, 0);
+    QVERIFY2(!usual.errors.contains("createCellData"), qPrintable(usual.errors));
+    QVERIFY2(asked.errors.contains("createCellData"), qPrintable(asked.errors));
 }
 
 void TestVoranview::pictureHasTheSizeAndTheRelief()
