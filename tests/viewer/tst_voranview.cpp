@@ -206,7 +206,7 @@ void TestVoranview::refusalsAreOneSentence()
 void TestVoranview::everyKindMakesAPicture_data()
 {
     QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<double>("colored"); // part of the picture that is not grey, the legend included
+    QTest::addColumn<double>("coloured"); // part of the picture that is not grey, the legend included
     QTest::newRow("lines of spectra") << QStringList{examples + "gasoline_nir.csv"} << 0.08;
     QTest::newRow("sheets of spectra")
         << QStringList{examples + "gasoline_nir.csv", "--style", "filled", "--look", "dark"} << 0.12;
