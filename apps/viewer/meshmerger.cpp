@@ -11,6 +11,21 @@ namespace {
 
 constexpr unsigned int noVertex = std::numeric_limits<unsigned int>::max();
 
+/// What joins coloured meshes without colours.
+constexpr QRgb uncolored = qRgb(160, 160, 160);
+
+QRgb colorOf(const aiMesh& mesh, unsigned int vertex)
+{
+    if (!mesh.HasVertexColors(0))
+        return uncolored;
+    const aiColor4D& color = mesh.mColors[0][vertex];
+    const auto part = [](float value) {
+        // Not a number becomes 0.
+        return value > 0.0F ? int(std::lround(255.0F * std::min(value, 1.0F))) : 0;
+    };
+    return qRgba(part(color.r), part(color.g), part(color.b), part(color.a));
+}
+
 } // namespace
 
 std::size_t MeshMerger::PlaceHash::operator()(const Place& place) const
@@ -36,11 +51,13 @@ void MeshMerger::takeNode(const aiScene& scene, const aiNode& node, const aiMatr
         takeNode(scene, *node.mChildren[i], transform);
 }
 
-unsigned int MeshMerger::vertexAt(const Place& place)
+unsigned int MeshMerger::vertexAt(const Place& place, QRgb color)
 {
     const auto found = m_places.emplace(place, static_cast<unsigned int>(m_mesh.vertices.size()));
-    if (found.second)
+    if (found.second) {
         m_mesh.vertices.append(QVector3D(place.x, place.y, place.z));
+        m_mesh.colors.append(color);
+    }
     return found.first->second;
 }
 
@@ -65,6 +82,7 @@ bool MeshMerger::hasArea(const QVector<unsigned int>& cell) const
 
 void MeshMerger::takeMesh(const aiMesh& mesh, const aiMatrix4x4& transform)
 {
+    m_colored = m_colored || mesh.HasVertexColors(0);
     // A transform that mirrors turns the winding round.
     const bool mirrored = transform.Determinant() < 0;
     std::vector<bool> used(mesh.mNumVertices, false);
@@ -84,7 +102,7 @@ void MeshMerger::takeMesh(const aiMesh& mesh, const aiMatrix4x4& transform)
             finite = finite && std::isfinite(at.x) && std::isfinite(at.y) && std::isfinite(at.z);
             if (!finite)
                 break;
-            const unsigned int vertex = vertexAt({at.x, at.y, at.z});
+            const unsigned int vertex = vertexAt({at.x, at.y, at.z}, colorOf(mesh, face.mIndices[k]));
             if (cell.isEmpty() || cell.back() != vertex)
                 cell.append(vertex);
         }
@@ -109,17 +127,21 @@ Mesh MeshMerger::finish()
     std::vector<unsigned int> numbers(static_cast<std::size_t>(m_mesh.vertices.size()), noVertex);
     QVector<QVector3D> vertices;
     vertices.reserve(m_mesh.vertices.size());
+    QVector<QRgb> colors;
     for (QVector<unsigned int>& cell : m_mesh.cells) {
         for (unsigned int& corner : cell) {
             unsigned int& number = numbers[corner];
             if (number == noVertex) {
                 number = static_cast<unsigned int>(vertices.size());
                 vertices.append(m_mesh.vertices[static_cast<int>(corner)]);
+                if (m_colored)
+                    colors.append(m_mesh.colors[static_cast<int>(corner)]);
             }
             corner = number;
         }
     }
     m_mesh.vertices = vertices;
+    m_mesh.colors = colors;
     if (m_flat > 0)
         m_mesh.notes.append(tr("Faces without area left out: %1.").arg(m_flat));
     if (m_infinite > 0)

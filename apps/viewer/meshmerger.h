@@ -46,11 +46,12 @@ private:
 
     void takeNode(const aiScene& scene, const aiNode& node, const aiMatrix4x4& above);
     void takeMesh(const aiMesh& mesh, const aiMatrix4x4& transform);
-    unsigned int vertexAt(const Place& place);
+    unsigned int vertexAt(const Place& place, QRgb color);
     bool hasArea(const QVector<unsigned int>& cell) const;
 
     Mesh m_mesh;
     std::unordered_map<Place, unsigned int, PlaceHash> m_places;
+    bool m_colored = false;
     int m_flat = 0;
     int m_infinite = 0;
     int m_pointsAndLines = 0;

@@ -39,6 +39,7 @@ void PlotView::setLook(const Zel3D::Look& look)
         own.gradient = m_gradient;
     }
     own.applyTo(plot());
+    dressed();
 }
 
 void PlotView::setDataGradient(const QString& name, const QLinearGradient& gradient)

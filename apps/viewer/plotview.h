@@ -48,6 +48,8 @@ public:
     void restoreKept();
 
 protected:
+    /// The plot was dressed or got other colours; for views whose data bring their own.
+    virtual void dressed() {}
     /// Fills the window again, unless the person has zoomed.
     void refit();
     /// What the settings of the subject are kept under.

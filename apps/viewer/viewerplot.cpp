@@ -4,6 +4,7 @@
 #include "grid.h"
 #include "mesh.h"
 #include "plotstyles.h"
+#include "scene/legend.h"
 #include "startview.h"
 #include "thinning.h"
 #include "view/light.h"
@@ -86,6 +87,8 @@ bool ViewerPlot::load(const Mesh& mesh)
     setBoxScaling(Zel3D::EqualUnits);
     if (!loadFromData(mesh.vertices, mesh.cells, 1.0, 1.0))
         return false;
+    m_vertexColors = VertexColors::tableOf(mesh);
+    dressed();
     nameAxes({tr("x"), tr("y"), tr("z")});
     resetView();
     return true;
@@ -99,6 +102,16 @@ bool ViewerPlot::load(Zel3D::GridMapping& mapping)
     nameAxes({tr("x"), tr("y"), tr("z")});
     resetView();
     return true;
+}
+
+void ViewerPlot::dressed()
+{
+    const Zel3D::DataColor* now = getDataColor();
+    if (!m_vertexColors || !now)
+        return;
+    setDataColor(new VertexColors(this, now->getId(), now->getGradient(), m_vertexColors));
+    // It would explain heights.
+    getLegend().setVisible(false);
 }
 
 void ViewerPlot::setRelief(double part)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "plots/shplot.h"
+#include "vertexcolors.h"
 #include "viewedplot.h"
 
 #include <optional>
@@ -21,7 +22,8 @@ public:
     PlotKind kind() const override { return PlotKind::Surface; }
     /// Shows a grid from the start view; the plot keeps a copy. False when the plot does not take it.
     bool load(Grid& grid);
-    /// The same with a mesh, in equal units.
+    /// The same with a mesh, in equal units. Colours of its vertices go before those of the heights, until
+    /// the person chooses another gradient.
     bool load(const Mesh& mesh);
     /// The same with what a mapping samples, in equal units.
     bool load(Zel3D::GridMapping& mapping);
@@ -36,6 +38,7 @@ public:
 
 protected:
     Zel3D::ValueXYZ<double> recalculateAutoScale() override;
+    void dressed() override;
 
 private:
     void lightFromNorthWest();
@@ -44,4 +47,5 @@ private:
     int m_columns = 0;
     int m_rows = 0;
     std::optional<double> m_relief;
+    std::shared_ptr<const VertexColors::Table> m_vertexColors;
 };

@@ -45,6 +45,7 @@ class TestMeshFile : public QObject
 private slots:
     void everyFormat_data();
     void everyFormat();
+    void vertexColors();
     void notesTellWhatWasLeftOut_data();
     void notesTellWhatWasLeftOut();
     void nodesPlaceTheirMeshes();
@@ -108,6 +109,31 @@ void TestMeshFile::everyFormat()
     QTEST(text(mesh), "cells");
     QTEST(mesh.vertices.size(), "vertices");
     QCOMPARE(mesh.notes, QStringList());
+}
+
+void TestMeshFile::vertexColors()
+{
+    // The second vertex belongs to no face: colours must follow their vertices.
+    const QByteArray colored(
+        "ply\nformat ascii 1.0\nelement vertex 4\nproperty float x\nproperty float y\n"
+        "property float z\nproperty uchar red\nproperty uchar green\nproperty uchar blue\n"
+        "element face 1\nproperty list uchar int vertex_indices\nend_header\n"
+        "0 0 0 255 0 0\n9 9 9 1 2 3\n1 0 0 0 255 0\n1 1 0 0 0 255\n3 0 2 3\n");
+    Mesh mesh;
+    MeshFile reader(write("colored.ply", colored));
+    QVERIFY2(reader.read(mesh), qPrintable(reader.error()));
+    QCOMPARE(mesh.colors.size(), mesh.vertices.size());
+    QStringList found;
+    for (int i = 0; i < mesh.vertices.size(); ++i)
+        found.append(QString("%1 %2 %3")
+                         .arg(mesh.vertices[i].x())
+                         .arg(mesh.vertices[i].y())
+                         .arg(mesh.colors[i], 0, 16));
+    found.sort();
+    QCOMPARE(found.join(", "), QString("0 0 ffff0000, 1 0 ff00ff00, 1 1 ff0000ff"));
+    MeshFile plain(write("plain.stl", stl()));
+    QVERIFY(plain.read(mesh));
+    QVERIFY(mesh.colors.isEmpty());
 }
 
 void TestMeshFile::notesTellWhatWasLeftOut_data()
