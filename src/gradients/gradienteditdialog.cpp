@@ -77,7 +77,7 @@ QWidget* GradientEditDialog::makeFields()
     add(tr("&Color"), color, tr("Color of the stop"),
         tr("Chooses the color of the stop and how opaque it is"), 1);
     add(tr("&Hex"), hex, tr("Color of the stop as a hexadecimal number"),
-        tr("Color as #rrggbb or #rrggbbaa, each part 00 to ff; aa is 00 where it is transparent"), 2);
+        tr("Color as #rrggbb or #rrggbbaa, each pair from 00 to ff; aa is 00 where it is transparent"), 2);
     hex->setMaxLength(9);
     hex->setMinimumWidth(hex->fontMetrics().horizontalAdvance("#dddddddd") + hex->fontMetrics().height());
     grid->setColumnStretch(0, 1);
