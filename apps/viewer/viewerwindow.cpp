@@ -306,6 +306,14 @@ void ViewerWindow::dropEvent(QDropEvent* event)
     openFile(path);
 }
 
+// The window manager goes full screen and back, too.
+void ViewerWindow::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange && m_fullScreenAction)
+        m_fullScreenAction->setChecked(isFullScreen());
+}
+
 void ViewerWindow::closeEvent(QCloseEvent* event)
 {
     remember();

@@ -56,6 +56,7 @@ private slots:
     void cleanup();
     void gesturesAreKeptAndReachEveryPlot();
     void dialogKnowsTheShortcuts();
+    void fullScreenFromOutside();
     void settingsOpenFromTheMenu();
     void editsComeBackWithTheirData();
     void templateOnTheCommandLine_data();
@@ -183,6 +184,24 @@ void TestViewerAppearance::cleanup()
 {
     QSettings().clear();
     QSettings("VORAN", "voranview").clear();
+}
+
+void TestViewerAppearance::fullScreenFromOutside()
+{
+    ViewerWindow window;
+    window.show();
+    const auto checked = [&window] {
+        for (const QAction* action : window.findChildren<QAction*>()) {
+            if (action->shortcut() == QKeySequence(Qt::Key_F11))
+                return action->isChecked();
+        }
+        return false;
+    };
+    QVERIFY(!checked());
+    window.setWindowState(Qt::WindowFullScreen);
+    QTRY_VERIFY(checked());
+    window.setWindowState(Qt::WindowNoState);
+    QTRY_VERIFY(!checked());
 }
 
 void TestViewerAppearance::templateOnTheCommandLine_data()
