@@ -1,6 +1,7 @@
 #include "meshfile.h"
 
 #include "assimpmessages.h"
+#include "filecheck.h"
 #include "memoryneed.h"
 #include "meshmerger.h"
 
@@ -30,20 +31,10 @@ bool MeshFile::fail(const QString& sentence)
 
 bool MeshFile::checkFile()
 {
-    const QFileInfo file(m_path);
-    if (m_path.isEmpty())
-        return fail(tr("No file is named."));
-    if (file.isDir())
-        return fail(tr("\"%1\" is a folder, not a mesh file.").arg(m_path));
-    if (!file.exists())
-        return fail(tr("\"%1\" does not exist.").arg(m_path));
-    if (!file.isReadable())
-        return fail(tr("\"%1\" cannot be read: permission denied.").arg(m_path));
-    if (!file.isFile())
-        return fail(tr("\"%1\" is no regular file.").arg(m_path));
-    if (file.size() == 0)
-        return fail(tr("\"%1\" is empty.").arg(m_path));
-    const double need = double(file.size()) * bytesPerByte;
+    const QString problem = fileProblem(m_path, tr("a mesh file"));
+    if (!problem.isEmpty())
+        return fail(problem);
+    const double need = double(QFileInfo(m_path).size()) * bytesPerByte;
     const std::optional<double> freeBytes = MemoryNeed::freeBytes();
     if (freeBytes && need > *freeBytes)
         return fail(tr("\"%1\" needs about %2 of memory; %3 are free.")

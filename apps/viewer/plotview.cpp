@@ -3,6 +3,7 @@
 #include "plots/baseplot.h"
 #include "plots/baseplotsettings.h"
 #include "plots/viewfit.h"
+#include "scene/boxedges.h"
 #include "scene/coordinatesystem.h"
 
 #include <QCryptographicHash>
@@ -51,15 +52,12 @@ void PlotView::setDataGradient(const QString& name, const QLinearGradient& gradi
 
 void PlotView::nameAxes(const std::array<QString, 3>& names)
 {
-    const std::array<Zel3D::AxisType, 4> parallels[] = {
-        {Zel3D::XFrontBottom, Zel3D::XFrontTop, Zel3D::XBackTop, Zel3D::XBackBottom},
-        {Zel3D::YLeftBottom, Zel3D::YLeftTop, Zel3D::YRightTop, Zel3D::YRightBottom},
-        {Zel3D::ZBackLeft, Zel3D::ZFrontLeft, Zel3D::ZBackRight, Zel3D::ZFrontRight}};
-    for (std::size_t direction = 0; direction < names.size(); ++direction) {
-        if (names[direction].isEmpty())
+    for (const Zel3D::BaseAxisType direction : {Zel3D::XAxis, Zel3D::YAxis, Zel3D::ZAxis}) {
+        const QString& name = names[std::size_t(direction)];
+        if (name.isEmpty())
             continue;
-        for (Zel3D::AxisType edge : parallels[direction])
-            plot().getCoordinateSystem().getAxis(edge).getLabel().getSettings().setText(names[direction]);
+        for (const Zel3D::AxisType edge : Zel3D::axesOf(direction))
+            plot().getCoordinateSystem().getAxis(edge).getLabel().getSettings().setText(name);
     }
 }
 

@@ -1,10 +1,10 @@
 #include "spectrafile.h"
 
+#include "filecheck.h"
 #include "memoryneed.h"
 #include "spectratable.h"
 
 #include <QFile>
-#include <QFileInfo>
 
 #include <algorithm>
 #include <new>
@@ -79,20 +79,8 @@ bool SpectraFile::fail(const QString& sentence)
 
 bool SpectraFile::checkFile()
 {
-    const QFileInfo file(m_path);
-    if (m_path.isEmpty())
-        return fail(tr("No file is named."));
-    if (file.isDir())
-        return fail(tr("\"%1\" is a folder, not a file of spectra.").arg(m_path));
-    if (!file.exists())
-        return fail(tr("\"%1\" does not exist.").arg(m_path));
-    if (!file.isReadable())
-        return fail(tr("\"%1\" cannot be read: permission denied.").arg(m_path));
-    if (!file.isFile())
-        return fail(tr("\"%1\" is no regular file.").arg(m_path));
-    if (file.size() == 0)
-        return fail(tr("\"%1\" is empty.").arg(m_path));
-    return true;
+    const QString problem = fileProblem(m_path, tr("a file of spectra"));
+    return problem.isEmpty() || fail(problem);
 }
 
 bool SpectraFile::checkText(const QByteArray& start)
