@@ -44,4 +44,11 @@ if(VORAN_VIEWER)
     install(FILES resources/plot/images/voranview.svg
         DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps COMPONENT viewer)
     install(FILES packaging/copyright DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/voranview COMPONENT viewer)
+    install(FILES packaging/voranview.bash-completion RENAME voranview
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT viewer)
+    set(voran_man ${PROJECT_BINARY_DIR}/voranview.1)
+    configure_file(packaging/voranview.1.in ${voran_man} @ONLY)
+    add_custom_command(OUTPUT ${voran_man}.gz COMMAND gzip -9nkf ${voran_man} DEPENDS ${voran_man})
+    add_custom_target(voranview_man ALL DEPENDS ${voran_man}.gz)
+    install(FILES ${voran_man}.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT viewer)
 endif()
