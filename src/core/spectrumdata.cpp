@@ -6,6 +6,7 @@
 #include <cmath>
 #include <limits>
 #include <utility>
+#include <vector>
 
 namespace Zel3D {
 
@@ -44,21 +45,34 @@ void SpectrumData::setData(Map&& data)
 
 bool SpectrumData::setHeights(const Map& data)
 {
-    const auto sameKey = [](const auto& a, const auto& b) { return a.first == b.first; };
-    const auto samePoints = [&](const auto& a, const auto& b) {
-        return sameKey(a, b) && a.second.size() == b.second.size() &&
-               std::equal(a.second.begin(), a.second.end(), b.second.begin(), sameKey);
-    };
-    if (data.size() != spectrum.size() || !std::equal(data.begin(), data.end(), spectrum.begin(), samePoints))
+    if (data.size() != spectrum.size())
         return false;
-    auto from = data.begin();
-    for (auto& values : spectrum) {
-        auto height = from->second.begin();
-        for (auto& value : values.second)
-            value.second = (height++)->second;
-        ++from;
+    // Collected first, and in one walk through both: a map of many points is far from any cache.
+    std::vector<double> heights;
+    auto held = spectrum.cbegin();
+    for (const auto& [position, values] : data) {
+        if (position != held->first || values.size() != held->second.size())
+            return false;
+        auto point = held->second.cbegin();
+        for (const auto& [key, value] : values) {
+            if (key != point->first)
+                return false;
+            heights.push_back(value);
+            ++point;
+        }
+        ++held;
     }
-    computeBox();
+    Range range;
+    auto height = heights.cbegin();
+    for (auto& values : spectrum) {
+        for (auto& value : values.second) {
+            value.second = *height++;
+            range.widen(value.second);
+        }
+    }
+    // The positions, and with them x and y of the box, are those of before.
+    minimum.setZ(toFloat(range.lower));
+    maximum.setZ(toFloat(range.upper));
     return true;
 }
 

@@ -30,8 +30,9 @@ public:
     /// too. What has no value at all runs from +infinity to -infinity.
     void setData(const Map& data);
     void setData(Map&& data);
-    /// Takes over the heights of spectra with the very positions of those stored, without allocating, and
-    /// computes the box. False, and nothing changed, for other positions.
+    /// Takes over the heights of spectra with the very positions of those stored, without allocating nodes,
+    /// and with them the heights of the box. False, and nothing changed, for other positions. Throws
+    /// std::bad_alloc before anything is changed.
     bool setHeights(const Map& data);
     const Map& getSpectrum() const { return spectrum; }
 

@@ -4,6 +4,7 @@
 
 #include "core/dataorigin.h"
 #include "plots/datacheck.h"
+#include "plots/sheetpolygons.h"
 #include "settings/plotsettingsdialog.h"
 
 #include <QCoreApplication>
@@ -113,25 +114,28 @@ bool Spectrum::loadFromData(const std::map<double, std::map<double, double>>& sp
 {
     if (!spectrumData)
         return false;
-    QString fault = DataCheck::spectra(spectra, axis);
-    SpectrumData::Map loaded;
-    ValueXYZ<double> origin{0.0, 0.0, 0.0};
-    int lost = 0;
     const std::array<bool, 3>& directions = getLogarithmicData();
     const ValueXYZ<double>& held = getDataOrigin();
     const bool plain = !directions[0] && !directions[1] && !directions[2] && !isDataCentred() &&
                        held.x == 0.0 && held.y == 0.0;
-    const bool refilled =
-        fault.isEmpty() && plain && axis == spectrumData->getAxis() && spectrumData->setHeights(spectra);
+    QString fault;
+    SpectrumData::Map loaded;
+    ValueXYZ<double> origin{0.0, 0.0, 0.0};
+    int lost = 0;
+    bool refilled = false;
     // Copied before anything is cleared: memory may run out, and the map may be the plot's own.
-    if (fault.isEmpty() && !refilled) {
-        try {
+    try {
+        // The positions that are held have been checked.
+        refilled = plain && axis == spectrumData->getAxis() && spectrumData->setHeights(spectra);
+        if (!refilled)
+            fault = DataCheck::spectra(spectra, axis);
+        if (!refilled && fault.isEmpty()) {
             loaded = toExponents(spectra, axis, lost);
             if (isDataCentred())
                 origin = moveOrigin(loaded, axis);
-        } catch (const std::bad_alloc&) {
-            fault = QStringLiteral("memory ran out");
         }
+    } catch (const std::bad_alloc&) {
+        fault = QStringLiteral("memory ran out");
     }
     if (!fault.isEmpty()) {
         qWarning("Plot \"%s\": the data were not loaded: %s.", qPrintable(objectName()), qPrintable(fault));

@@ -9,6 +9,8 @@
 
 namespace Zel3D {
 
+class SheetPolygons;
+
 /// The plot widget for families of spectra: curves that stand side by side like the pages of an open book.
 ///
 /// Plot styles: 0 no plot, 1 points, 2 lines, 3 filled, 4 filled and frame; -1 is the style addition alone. A
@@ -121,8 +123,12 @@ private:
     int countPickPoints() const;
     void drawLine(Entry spectrum);
     std::vector<double> stopLevels() const;
+    /// The area under a curve, cut at the stops and coloured.
+    SheetPolygons cutSheet(Entry spectrum) const;
 
     std::unique_ptr<SpectrumData> spectrumData;
+    /// Of the spectra that were cut, while the sheets are drawn in both orders; otherwise null.
+    std::unique_ptr<std::map<const Values*, SheetPolygons>> sheets;
 };
 
 template <class Visit>

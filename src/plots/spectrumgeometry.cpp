@@ -8,6 +8,7 @@
 #include "plots/addition.h"
 #include "plots/baseplotsettings.h"
 #include "plots/blendscope.h"
+#include "plots/sheetpolygons.h"
 #include "plots/spectrum.h"
 #include "scene/basedraw.h"
 #include "view/glmode.h"
@@ -193,12 +194,14 @@ void Spectrum::createSpectrumData()
         const bool linesBlend = style == FilledAndFrame || getSettings().getMesh().isSmooth();
         const OpaqueScope unblended(!linesBlend && ColorLookup(*getDataColor()).isOpaque());
         const bool oneColor = gradientStops(getDataColor()->getGradient()).size() == 1;
+        sheets = std::make_unique<std::map<const Values*, SheetPolygons>>();
         for (const SpectrumOrder order : {Ascending, Descending}) {
             if (oneColor)
                 drawSpectrum(order);
             else
                 drawGradientSpectrum(order);
         }
+        sheets.reset();
     }
 }
 
@@ -301,33 +304,50 @@ std::vector<double> Spectrum::stopLevels() const
     return levels;
 }
 
-void Spectrum::drawOneGradientSpectrum(Entry spectrum)
+SheetPolygons Spectrum::cutSheet(Entry spectrum) const
 {
     const double outer = spectrum->first;
     RecentColors color(*getDataColor());
     const std::vector<double> levels = stopLevels();
     const SpectrumBands bands(levels);
     const Jumps jumps(levels);
+    SheetPolygons sheet;
+    sheet.reserve(spectrum->second.size() / std::size_t(pointStep()));
+    const auto add = [&](double position, double height) {
+        const QVector3D p = place(outer, position, height);
+        sheet.add(color.at(p), p);
+    };
     const auto rounded = [](const CurvePoint& p) {
         return CurvePoint{p.position, double(toFloat(p.height))};
     };
     visitPairs(spectrum->second, [&](const CurvePoint& from, const CurvePoint& to) {
         if (from.height == 0.0 && to.height == 0.0) {
-            glBegin(GL_LINES);
-            sendPoint(color, place(outer, from.position, 0.0));
-            sendPoint(color, place(outer, to.position, 0.0));
-            glEnd();
+            sheet.begin(GL_LINES);
+            add(from.position, 0.0);
+            add(to.position, 0.0);
             return;
         }
         bands.cut(rounded(from), rounded(to), [&](const SpectrumBands::Band& band) {
-            glBegin(GL_POLYGON);
+            sheet.begin(GL_POLYGON);
             for (std::size_t i = 0; i < band.count; ++i) {
                 const CurvePoint& corner = band.corners[i];
-                sendPoint(color, place(outer, corner.position, double(jumps.inside(band, corner.height))));
+                add(corner.position, double(jumps.inside(band, corner.height)));
             }
-            glEnd();
         });
     });
+    return sheet;
+}
+
+void Spectrum::drawOneGradientSpectrum(Entry spectrum)
+{
+    if (!sheets) {
+        cutSheet(spectrum).send();
+        return;
+    }
+    SheetPolygons& sheet = (*sheets)[&spectrum->second];
+    if (sheet.isEmpty())
+        sheet = cutSheet(spectrum);
+    sheet.send();
 }
 
 void Spectrum::drawPolygon(const QList<QVector3D>& points)

@@ -313,7 +313,11 @@ void TestSpectrum::everyVertexHasItsDataColor()
     for (const auto& primitive : drawn(plot)) {
         for (const auto& v : primitive.vertices) {
             const QColor color = (*plot.getDataColor())(v.position[0], v.position[1], v.position[2]);
-            QCOMPARE(v.color, (std::array<double, 4>{color.redF(), color.greenF(), color.blueF(), 1.0}));
+            // As OpenGL keeps it.
+            const std::array<float, 4> held{float(v.color[0]), float(v.color[1]), float(v.color[2]),
+                                            float(v.color[3])};
+            QCOMPARE(held, (std::array<float, 4>{float(color.redF()), float(color.greenF()),
+                                                 float(color.blueF()), 1.0F}));
             ++count;
         }
     }
