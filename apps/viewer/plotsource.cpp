@@ -4,10 +4,15 @@
 
 #include <QCoreApplication>
 
-std::unique_ptr<PlotView> PlotSource::open()
+std::unique_ptr<PlotView> PlotSource::open(const LoadProgress& progress)
 {
     m_error.clear();
-    std::unique_ptr<PlotView> view = read();
+    std::unique_ptr<PlotView> view = read(progress);
+    m_cancelled = progress.isCancelled();
+    if (m_cancelled) {
+        m_error.clear();
+        return nullptr;
+    }
     if (view)
         view->plot().slotSetTitle(m_name);
     return view;
