@@ -20,7 +20,7 @@ QString range(double lower, double upper)
 
 double drawingSeconds(const Grid& grid)
 {
-    constexpr double perNode = 6e-7;
+    constexpr double perNode = 2e-6;
     return perNode * double(grid.heights.size());
 }
 

@@ -6,7 +6,7 @@
 namespace {
 
 // Of a step between nodes: a coordinate that was written and read again still means its node.
-constexpr double tolerance = 1e-3;
+constexpr double tolerance = 0.01;
 
 struct Span
 {

@@ -50,7 +50,7 @@ void GridSource::noteThinning(Grid& grid)
         return;
     m_map = gridPicture(grid, mapSide);
     setNotes(
-        {tr("Shown thinned: %1 x %2 of %3 x %4 nodes, each the mean of those around it.")
+        {tr("Shown thinned: %1 x %2 of %3 x %4 nodes; each is a mean of several.")
              .arg(number(grid.columns), number(grid.rows), number(m_layout.columns), number(m_layout.rows))});
 }
 

@@ -20,8 +20,8 @@ namespace {
 /// plot.
 constexpr double bytesPerByte = 20.0;
 
-/// Of the time that reading and merging take.
-constexpr double readingPart = 0.6;
+/// Of the time that reading and merging take: less with most formats, more with those whose readers report.
+constexpr double readingPart = 0.3;
 
 /// What readers that cannot report take about.
 constexpr double bytesPerSecond = 4e7;

@@ -46,6 +46,9 @@ PartDialog::PartDialog(const GridSource& source, const std::optional<QPointF>& p
         place.value_or(QPointF(0.5 * (range.xMin + range.xMax), 0.5 * (range.yMin + range.yMax)));
     m_part = m_layout.around(middle.x(), middle.y(), m_budget);
     auto* layout = new QVBoxLayout(this);
+    auto* advice = new QLabel(tr("Drag a rectangle on the map, or drag inside it to move it:"));
+    advice->setWordWrap(true);
+    layout->addWidget(advice);
     layout->addWidget(m_map, 1);
     layout->addLayout(makeFields(source));
     m_verdict->setObjectName("verdict");

@@ -23,7 +23,6 @@ PartMap::PartMap(const QImage& picture, QWidget* parent) : QWidget(parent), m_pi
     setAccessibleName(tr("Part of the grid"));
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    setToolTip(tr("Drag a rectangle; drag inside it to move it."));
 }
 
 QSize PartMap::sizeHint() const
@@ -74,7 +73,7 @@ void PartMap::paintEvent(QPaintEvent* /*event*/)
     QPainterPath outside;
     outside.addRect(all);
     outside.addRect(part);
-    painter.fillPath(outside, QColor(20, 24, 30, 130));
+    painter.fillPath(outside, QColor(20, 24, 30, 95));
     // Light on dark, to be seen on every colour.
     painter.setPen(QPen(QColor(20, 24, 30), 3.0));
     painter.drawRect(part);

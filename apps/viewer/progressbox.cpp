@@ -39,6 +39,8 @@ ProgressBox::~ProgressBox()
 
 void ProgressBox::appear()
 {
+    // At the start of the program the window may wait for its first plot: not so long.
+    m_window.show();
     m_box.show();
     // What follows may take no events for long: until then the box must be on the screen.
     QElapsedTimer waiting;

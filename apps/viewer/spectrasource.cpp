@@ -13,7 +13,7 @@
 namespace {
 
 // Taking the values and the first picture of them.
-constexpr double secondsPerValue = 1e-6;
+constexpr double secondsPerValue = 1.5e-6;
 
 // Enough for seconds since 1970.
 constexpr int digits = 10;
