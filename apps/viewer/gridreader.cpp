@@ -120,42 +120,43 @@ void GridReader::chooseOverview(const GridPart& window, const Grid& grid)
     m_mask = maskOf(m_source);
 }
 
-/// Shares the nodes from start to end, in steps from the outer edge of the first, out to blocks of equal
-/// width, which is at least one step.
-GridReader::Shares GridReader::share(double start, double end, int blocks, int nodes)
+GridReader::Blocks::Blocks(double from, double to, int blocks, int nodes)
+    : start(from),
+      end(to),
+      count(blocks),
+      width((to - from) / blocks),
+      first(std::clamp(int(from), 0, nodes - 1)),
+      last(std::clamp(int(std::ceil(to)) - 1, first, nodes - 1))
 {
-    const double width = (end - start) / blocks;
-    Shares made;
-    made.first = std::clamp(int(start), 0, nodes - 1);
-    const int last = std::clamp(int(std::ceil(end)) - 1, made.first, nodes - 1);
-    for (int node = made.first; node <= last; ++node) {
-        const double from = std::max(double(node), start);
-        const double to = std::min(node + 1.0, end);
-        Share share;
-        share.block = std::clamp(int((from - start) / width), 0, blocks - 1);
-        const double border = start + (share.block + 1) * width;
-        share.weight = share.block == blocks - 1 ? to - from : std::clamp(border - from, 0.0, to - from);
-        share.rest = to - from - share.weight;
-        made.shares.push_back(share);
-    }
-    return made;
+}
+
+GridReader::Share GridReader::Blocks::share(int node) const
+{
+    const double from = std::max(double(node), start);
+    const double to = std::min(node + 1.0, end);
+    Share share;
+    share.block = std::min(int((from - start) / width), count - 1);
+    const double border = start + (share.block + 1) * width;
+    share.weight = share.block == count - 1 ? to - from : std::clamp(border - from, 0.0, to - from);
+    share.rest = to - from - share.weight;
+    return share;
 }
 
 /// Adds the heights of a line of the source up by blocks.
-bool GridReader::addLine(int line, const Shares& columns)
+bool GridReader::addLine(int line, const Blocks& columns, const LoadProgress& progress)
 {
     std::fill(m_lineSums.begin(), m_lineSums.end(), 0.0);
     std::fill(m_lineWeights.begin(), m_lineWeights.end(), 0.0);
-    const int count = int(columns.shares.size());
-    for (int start = 0; start < count; start += mostValues) {
-        const int width = std::min(mostValues, count - start);
-        if (!readLines(columns.first + start, line, width, 1))
+    for (int start = columns.first, width = 0; start <= columns.last; start += width) {
+        width = std::min(mostValues, columns.last - start + 1);
+        // Lines can be very long: the progress stays and can be cancelled.
+        if (!progress(0.0) || !readLines(start, line, width, 1))
             return false;
         for (int i = 0; i < width; ++i) {
             const double height = m_values[std::size_t(i)];
             if (std::isnan(height))
                 continue;
-            const Share& share = columns.shares[std::size_t(start + i)];
+            const Share share = columns.share(start + i);
             const auto block = std::size_t(share.block);
             m_lineSums[block] += share.weight * height;
             m_lineWeights[block] += share.weight;
@@ -183,11 +184,10 @@ bool GridReader::readThinned(const GridPart& window, Grid& grid, const LoadProgr
     const int sourceLines = GDALGetRasterBandYSize(m_source);
     const double alongX = double(sourceColumns) / GDALGetRasterBandXSize(m_band);
     const double alongY = double(sourceLines) / GDALGetRasterBandYSize(m_band);
-    const Shares columns =
-        share(window.column * alongX, (window.column + window.columns) * alongX, grid.columns, sourceColumns);
-    const Shares lines =
-        share(window.row * alongY, (window.row + window.rows) * alongY, grid.rows, sourceLines);
-    const double fullWeight = window.columns * alongX / grid.columns * (window.rows * alongY / grid.rows);
+    const Blocks columns(window.column * alongX, (window.column + window.columns) * alongX, grid.columns,
+                         sourceColumns);
+    const Blocks lines(window.row * alongY, (window.row + window.rows) * alongY, grid.rows, sourceLines);
+    const double fullWeight = columns.width * lines.width;
     const auto width = std::size_t(grid.columns);
     m_lineSums.resize(width);
     m_lineWeights.resize(width);
@@ -210,17 +210,16 @@ bool GridReader::readThinned(const GridPart& window, Grid& grid, const LoadProgr
         std::fill(nextWeights.begin(), nextWeights.end(), 0.0);
         ++block;
     };
-    const auto count = lines.shares.size();
-    for (std::size_t i = 0; i < count; ++i) {
-        const Share& share = lines.shares[i];
+    for (int line = lines.first; line <= lines.last; ++line) {
+        const Share share = lines.share(line);
         while (block < share.block)
             finishBlock();
-        if (!addLine(lines.first + int(i), columns))
+        if (!addLine(line, columns, progress))
             return false;
         addBlocks(share.weight, sums, weights);
         if (share.rest > 0.0)
             addBlocks(share.rest, nextSums, nextWeights);
-        if (!progress(double(i + 1) / double(count)))
+        if (!progress(double(line - lines.first + 1) / double(lines.last - lines.first + 1)))
             return false;
     }
     while (block < grid.rows)

@@ -25,27 +25,33 @@ public:
     void setReversed(bool columns, bool lines);
 
 private:
-    /// Where a node of the band goes when blocks are averaged: a block and the weight in it; the rest of its
-    /// weight goes to the next block.
+    /// What a node of the source gives to a block, and to the block after it.
     struct Share
     {
         int block = 0;
         double weight = 0.0;
         double rest = 0.0;
     };
-    /// The nodes of a band that blocks are made of, along a line or down the lines.
-    struct Shares
+    /// Blocks of equal width, which is at least one node, along a line of the source or down its lines.
+    struct Blocks
     {
-        int first = 0;
-        std::vector<Share> shares;
+        /// From start to end, in nodes from the outer edge of the first.
+        Blocks(double start, double end, int count, int nodes);
+        Share share(int node) const;
+
+        double start;
+        double end;
+        int count;
+        double width;
+        int first; ///< node that a block has a part of
+        int last;
     };
 
     bool readLines(int column, int line, int columns, int lines);
     bool readFull(const GridPart& window, Grid& grid, const LoadProgress& progress);
     bool readThinned(const GridPart& window, Grid& grid, const LoadProgress& progress);
     void chooseOverview(const GridPart& window, const Grid& grid);
-    static Shares share(double start, double end, int blocks, int nodes);
-    bool addLine(int line, const Shares& columns);
+    bool addLine(int line, const Blocks& columns, const LoadProgress& progress);
     void addBlocks(double weight, std::vector<double>& sums, std::vector<double>& weights) const;
     int placed(int index, int count, bool reversed) const { return reversed ? count - 1 - index : index; }
 

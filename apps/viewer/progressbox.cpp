@@ -74,8 +74,6 @@ bool ProgressBox::showLoad(const QString& name, const LoadProgress::Report& repo
     const QString text = report.step == LoadProgress::Drawing ? tr("Drawing %1...") : tr("Reading %1...");
     m_box.setLabelText(
         text.arg(m_box.fontMetrics().elidedText(name.simplified(), Qt::ElideMiddle, nameWidth)));
-    // The library draws in one go.
-    m_cancel->setEnabled(report.step != LoadProgress::Drawing);
     m_box.setMaximum(report.busy ? 0 : steps);
     m_box.setValue(report.busy ? 0 : int(report.part * steps));
     return goesOn(1000.0 * report.seconds);
@@ -88,8 +86,11 @@ LoadProgress ProgressBox::loadProgress(const QString& name)
 
 void ProgressBox::paintWindow()
 {
-    if (m_box.isVisible())
-        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    if (!m_box.isVisible())
+        return;
+    // The plot is there already.
+    m_cancel->setEnabled(false);
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 void ProgressBox::closeWindowAfterwards()
