@@ -5,6 +5,7 @@
 #include "gradients/gradientpresets.h"
 #include "plotstyles.h"
 #include "startview.h"
+#include "viewerpreferences.h"
 
 #include <QRegularExpression>
 
@@ -82,6 +83,14 @@ CommandLine::CommandLine()
          tr("Show these directions logarithmically, such as x,z. Values at or below zero are missing then."),
          "LETTERS"},
         {"band", tr("Band of a grid file to show, from 1.", "command line"), "N"},
+        {"part", tr("Show the part of a grid file between two corners, in the file's coordinates."),
+         "X0,Y0,X1,Y1"},
+        {"budget",
+         tr("Show grids of more nodes than that thinned, %1 to %2. Without it the number of the preferences "
+            "serves.")
+             .arg(ViewerPreferences::leastNodes)
+             .arg(ViewerPreferences::mostNodes),
+         "NODES"},
     });
     addPictureOptions();
     m_parser.addOptions({{{"h", "help"}, tr("Show this help and leave.")},
@@ -138,6 +147,7 @@ CommandLine::Outcome CommandLine::take()
         bool (CommandLine::*take)(const QString&);
     } checks[] = {{"style", &CommandLine::takeStyle},       {"look", &CommandLine::takeLook},
                   {"size", &CommandLine::takeSize},         {"band", &CommandLine::takeBand},
+                  {"part", &CommandLine::takePart},         {"budget", &CommandLine::takeBudget},
                   {"function", &CommandLine::takeFormula},  {"range", &CommandLine::takeRange},
                   {"mesh", &CommandLine::takeMesh},         {"view", &CommandLine::takeView},
                   {"gradient", &CommandLine::takeGradient}, {"axes", &CommandLine::takeAxes},
@@ -157,8 +167,11 @@ CommandLine::Outcome CommandLine::checkTogether()
         if (m_parser.isSet(option) && m_formula.isEmpty())
             return refuse(tr("The option --%1 is for a formula; none is named with --function.").arg(option));
     }
-    if (m_parser.isSet("band") && (!m_formula.isEmpty() || fileKind(m_file) != FileKind::Grid))
-        return refuse(tr("The option --band is for grid files; none is named."));
+    for (const char* option : {"band", "part", "budget"}) {
+        const bool grid = m_formula.isEmpty() && !m_file.isEmpty() && fileKind(m_file) == FileKind::Grid;
+        if (m_parser.isSet(option) && !grid)
+            return refuse(tr("The option --%1 is for grid files; none is named.").arg(option));
+    }
     if (m_parser.isSet("log") && !m_file.isEmpty() && fileKind(m_file) == FileKind::Mesh)
         return refuse(tr("The option --log is for grids, spectra and formulas; a mesh is named."));
     for (const char* option : {"view", "gradient", "axes", "log"}) {
@@ -272,6 +285,36 @@ bool CommandLine::takeBand(const QString& value)
     if (!valid || m_band < 1)
         refuse(tr("The band \"%1\" is not a whole number from 1.").arg(value));
     return valid && m_band >= 1;
+}
+
+bool CommandLine::takeBudget(const QString& value)
+{
+    bool valid = false;
+    const int nodes = value.toInt(&valid);
+    valid = valid && nodes >= ViewerPreferences::leastNodes && nodes <= ViewerPreferences::mostNodes;
+    m_choice.budget = nodes;
+    if (!valid)
+        refuse(tr("The budget \"%1\" is not a whole number of nodes from %2 to %3.")
+                   .arg(value)
+                   .arg(ViewerPreferences::leastNodes)
+                   .arg(ViewerPreferences::mostNodes));
+    return valid;
+}
+
+bool CommandLine::takePart(const QString& value)
+{
+    const QStringList numbers = value.split(',');
+    std::array<double, 4> corners{};
+    bool valid = numbers.size() == 4;
+    for (int i = 0; valid && i < 4; ++i) {
+        corners[std::size_t(i)] = numbers.at(i).toDouble(&valid);
+        valid = valid && std::isfinite(corners[std::size_t(i)]);
+    }
+    if (valid)
+        m_choice.range = GridRange{corners[0], corners[2], corners[1], corners[3]};
+    else
+        refuse(tr("The part \"%1\" is not X0,Y0,X1,Y1, the coordinates of two corners.").arg(value));
+    return valid;
 }
 
 bool CommandLine::takeView(const QString& value)

@@ -2,6 +2,7 @@
 
 #include "core/types.h"
 #include "formulaarea.h"
+#include "gridfile.h"
 #include "plotkind.h"
 #include "plots/look.h"
 
@@ -43,6 +44,8 @@ public:
     const QString& file() const { return m_file; }
     /// The band of a grid file, from 1.
     int band() const { return m_band; }
+    /// What of a grid file to read; a budget of 0 when none was asked for.
+    const GridChoice& choice() const { return m_choice; }
     /// The formula, or empty.
     const QString& formula() const { return m_formula; }
     /// Where the formula is evaluated.
@@ -79,6 +82,8 @@ private:
     bool takeFormula(const QString& value);
     bool takeRange(const QString& value);
     bool takeMesh(const QString& value);
+    bool takeBudget(const QString& value);
+    bool takePart(const QString& value);
     bool takeView(const QString& value);
     bool takeGradient(const QString& value);
     bool takeAxes(const QString& value);
@@ -104,4 +109,5 @@ private:
     std::optional<Zel3D::Look> m_look;
     std::optional<QSize> m_size;
     int m_band = 1;
+    GridChoice m_choice;
 };

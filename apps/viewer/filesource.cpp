@@ -5,7 +5,7 @@
 #include "meshsource.h"
 #include "spectrasource.h"
 
-std::unique_ptr<PlotSource> sourceOfFile(const QString& path, int band)
+std::unique_ptr<PlotSource> sourceOfFile(const QString& path, int band, const GridChoice& choice)
 {
     switch (fileKind(path)) {
     case FileKind::Spectra:
@@ -15,5 +15,5 @@ std::unique_ptr<PlotSource> sourceOfFile(const QString& path, int band)
     case FileKind::Grid:
         break;
     }
-    return std::make_unique<GridSource>(path, band);
+    return std::make_unique<GridSource>(path, band, choice);
 }

@@ -174,12 +174,14 @@ bool Formula::fits(const FormulaArea& area)
     return true;
 }
 
-void Formula::fill(Grid& grid)
+bool Formula::fill(Grid& grid, const LoadProgress& progress)
 {
     const double stepX = (grid.xMax - grid.xMin) / (grid.columns - 1);
     const double stepY = (grid.yMax - grid.yMin) / (grid.rows - 1);
     QString first;
     for (int column = 0; column < grid.columns; ++column) {
+        if (!progress(double(column) / grid.columns))
+            return false;
         const double x = grid.xMin + column * stepX;
         for (int row = 0; row < grid.rows; ++row) {
             const double y = grid.yMin + row * stepY;
@@ -195,9 +197,10 @@ void Formula::fill(Grid& grid)
                            .arg(grid.heights.size() - grid.validNodes)
                            .arg(grid.heights.size())
                            .arg(first));
+    return true;
 }
 
-bool Formula::read(Grid& grid, const FormulaArea& area)
+bool Formula::read(Grid& grid, const FormulaArea& area, const LoadProgress& progress)
 {
     m_notes.clear();
     if (!m_valid)
@@ -216,7 +219,8 @@ bool Formula::read(Grid& grid, const FormulaArea& area)
     found.yMin = area.yMin;
     found.yMax = area.yMax;
     found.name = m_text;
-    fill(found);
+    if (!fill(found, progress))
+        return false;
     if (found.validNodes == 0)
         return fail(tr("\"%1\" has no height at any node.").arg(m_text));
     if (found.zMax - found.zMin > double(FLT_MAX))

@@ -2,6 +2,7 @@
 
 #include "formulaarea.h"
 #include "grid.h"
+#include "loadprogress.h"
 
 #include <QCoreApplication>
 #include <QString>
@@ -43,8 +44,9 @@ public:
     /// error() says so.
     bool fits(const FormulaArea& area);
     /// Evaluates the formula over an area and replaces the grid with the heights. Nodes without a height are
-    /// missing. False when that fails: the grid is as it was then and error() says why.
-    bool read(Grid& grid, const FormulaArea& area);
+    /// missing. False when that fails: the grid is as it was then and error() says why, or is empty when the
+    /// progress was cancelled.
+    bool read(Grid& grid, const FormulaArea& area, const LoadProgress& progress = {});
     /// What the last read() left out.
     const QStringList& notes() const { return m_notes; }
 
@@ -54,7 +56,7 @@ private:
     bool checkForm();
     QString reason(int code, const QString& token) const;
     QString failure(int column, const QString& why) const;
-    void fill(Grid& grid);
+    bool fill(Grid& grid, const LoadProgress& progress);
 
     QString m_text;
     QString m_error;

@@ -15,13 +15,15 @@ FormulaSource::FormulaSource(const QString& formula, const FormulaArea& area) : 
     setName(formula.simplified());
 }
 
-std::unique_ptr<PlotView> FormulaSource::read()
+std::unique_ptr<PlotView> FormulaSource::read(const LoadProgress& progress)
 {
     Formula formula(name());
     Grid grid;
-    if (!formula.read(grid, m_area))
+    if (!formula.read(grid, m_area, progress))
         return fail(formula.error());
     grid.name.clear();
+    if (!progress.busy(LoadProgress::Drawing, drawingSeconds(grid)))
+        return nullptr;
     auto plot = std::make_unique<ViewerPlot>();
     plot->setRelief(formulaRelief);
     prepare(*plot);

@@ -10,7 +10,7 @@ public:
     FormulaSource(const QString& formula, const FormulaArea& area);
 
 protected:
-    std::unique_ptr<PlotView> read() override;
+    std::unique_ptr<PlotView> read(const LoadProgress& progress) override;
 
 private:
     FormulaArea m_area;

@@ -18,6 +18,12 @@ QString range(double lower, double upper)
 
 } // namespace
 
+double drawingSeconds(const Grid& grid)
+{
+    constexpr double perNode = 2e-6;
+    return perNode * double(grid.heights.size());
+}
+
 QString describeGrid(const Grid& grid)
 {
     QString text =

@@ -2,13 +2,12 @@
 
 #include "gdalmessages.h"
 #include "gridplacement.h"
+#include "gridreader.h"
 #include "memoryneed.h"
 
 #include <QFileInfo>
 #include <QRegularExpression>
 
-#include <cfloat>
-#include <cmath>
 #include <limits>
 #include <memory>
 #include <new>
@@ -18,6 +17,9 @@
 
 namespace {
 
+// Seven before and three behind the point tell the cells of surveys apart.
+constexpr int coordinateDigits = 10;
+
 struct CloseDataset
 {
     void operator()(void* dataset) const { GDALClose(dataset); }
@@ -26,7 +28,6 @@ using Dataset = std::unique_ptr<void, CloseDataset>;
 
 Dataset openDataset(const QString& name)
 {
-    GDALAllRegister();
     // Text grids are read whole numbers first, and would lose the decimals that come later, when nothing asks
     // for a real type. Formats without the option ignore it.
     const char* const options[] = {"DATATYPE=Float64", nullptr};
@@ -41,46 +42,29 @@ QString firstContained(GDALDatasetH dataset)
     return QString::fromUtf8(GDALGetMetadataItem(dataset, "SUBDATASET_1_NAME", "SUBDATASETS"));
 }
 
-double factor(GDALRasterBandH band)
+/// Some formats search their whole file for the size of the grid, which GDAL cannot tell about.
+void tellOfOpening(const QString& name, const LoadProgress& progress)
 {
-    int given = 0;
-    const double scale = GDALGetRasterScale(band, &given);
-    return given != 0 && std::isfinite(scale) && scale != 0.0 ? scale : 1.0;
+    constexpr double bytesPerSecond = 3e7;
+    const GDALDriverH driver = GDALIdentifyDriver(name.toUtf8().constData(), nullptr);
+    if (driver != nullptr && qstrcmp(GDALGetDriverShortName(driver), "XYZ") == 0)
+        progress.busy(LoadProgress::Reading, double(QFileInfo(name).size()) / bytesPerSecond);
 }
 
-double summand(GDALRasterBandH band)
+bool isSpread(const GridRange& range)
 {
-    int given = 0;
-    const double offset = GDALGetRasterOffset(band, &given);
-    return given != 0 && std::isfinite(offset) ? offset : 0.0;
+    // The plot's box is in single precision: it must still have a width there.
+    return static_cast<float>(range.xMin) < static_cast<float>(range.xMax) &&
+           static_cast<float>(range.yMin) < static_cast<float>(range.yMax);
 }
 
-/// Reads a band row by row into the grid's columns. False when GDAL fails.
-bool readRows(GDALRasterBandH band, const GridPlacement& placement, Grid& grid)
+/// The coordinates of the outer nodes when the nodes of a part are made of blocks of it: their centres.
+GridRange thinnedRange(const GridLayout& layout, const GridSize& size)
 {
-    const GDALRasterBandH maskBand =
-        (GDALGetMaskFlags(band) & GMF_ALL_VALID) == 0 ? GDALGetMaskBand(band) : nullptr;
-    const double scale = factor(band);
-    const double offset = summand(band);
-    const auto columns = static_cast<std::size_t>(grid.columns);
-    std::vector<double> values(columns);
-    std::vector<unsigned char> mask(columns, 255);
-    for (int line = 0; line < grid.rows; ++line) {
-        if (GDALRasterIO(band, GF_Read, 0, line, grid.columns, 1, values.data(), grid.columns, 1, GDT_Float64,
-                         0, 0) != CE_None)
-            return false;
-        if (maskBand != nullptr && GDALRasterIO(maskBand, GF_Read, 0, line, grid.columns, 1, mask.data(),
-                                                grid.columns, 1, GDT_Byte, 0, 0) != CE_None)
-            return false;
-        const int row = placement.rowsReversed ? grid.rows - 1 - line : line;
-        for (std::size_t i = 0; i < columns; ++i) {
-            const double height = values[i] * scale + offset;
-            // The plot draws in single precision; what does not fit there is no height. NaN fails too.
-            if (mask[i] != 0 && std::abs(height) <= static_cast<double>(FLT_MAX))
-                grid.columnStarts[placement.columnsReversed ? columns - 1 - i : i][row] = height;
-        }
-    }
-    return true;
+    const double insetX = 0.5 * (double(layout.columns) / size.columns - 1.0) * layout.stepX();
+    const double insetY = 0.5 * (double(layout.rows) / size.rows - 1.0) * layout.stepY();
+    return {layout.range.xMin + insetX, layout.range.xMax - insetX, layout.range.yMin + insetY,
+            layout.range.yMax - insetY};
 }
 
 } // namespace
@@ -135,12 +119,12 @@ bool GridFile::checkBand(void* dataset, int band)
                         .arg(m_name)
                         .arg(columns)
                         .arg(rows));
-    return checkMemory(columns, rows);
+    return true;
 }
 
-bool GridFile::checkMemory(int columns, int rows)
+bool GridFile::checkMemory(const GridSize& size)
 {
-    const MemoryNeed need(columns, rows);
+    const MemoryNeed need(size.columns, size.rows);
     const std::optional<double> freeBytes = MemoryNeed::freeBytes();
     if (!freeBytes || need.fits(*freeBytes))
         return true;
@@ -192,12 +176,69 @@ void GridFile::nameAxes(void* dataset, Grid& grid)
     }
 }
 
-bool GridFile::fill(void* band, const GridPlacement& placement, Grid& grid)
+bool GridFile::choosePart(const GridChoice& choice, const GridPlacement& placement, const GridLayout& file)
+{
+    m_part = choice.range ? file.within(*choice.range) : file.whole();
+    if (m_part.columns == 0 || m_part.rows == 0)
+        return fail(tr("\"%1\" has no nodes in that part; its x are from %2 to %3, its y from %4 to %5.")
+                        .arg(m_name)
+                        .arg(placement.xMin, 0, 'g', coordinateDigits)
+                        .arg(placement.xMax, 0, 'g', coordinateDigits)
+                        .arg(placement.yMin, 0, 'g', coordinateDigits)
+                        .arg(placement.yMax, 0, 'g', coordinateDigits));
+    m_layout = {m_part.columns, m_part.rows, file.rangeOf(m_part)};
+    if (!m_part.isSurface())
+        return fail(
+            tr("That part of \"%1\" has %2 x %3 nodes (columns x rows); a surface needs at least 2 x 2.")
+                .arg(m_name)
+                .arg(m_part.columns)
+                .arg(m_part.rows));
+    if (!isSpread(m_layout.range))
+        return fail(tr("That part of \"%1\" cannot be drawn: at its coordinates single precision cannot tell "
+                       "its nodes apart.")
+                        .arg(m_name));
+    return true;
+}
+
+bool GridFile::allocate(const GridSize& size, Grid& grid)
+{
+    if (!checkMemory(size))
+        return false;
+    try {
+        grid.allocate(size.columns, size.rows);
+    } catch (const std::bad_alloc&) {
+        return fail(tr("\"%1\" needs about %2, which cannot be had.")
+                        .arg(m_name, MemoryNeed(size.columns, size.rows).text()));
+    }
+    const GridRange range = thinnedRange(m_layout, size);
+    grid.xMin = range.xMin;
+    grid.xMax = range.xMax;
+    grid.yMin = range.yMin;
+    grid.yMax = range.yMax;
+    return true;
+}
+
+bool GridFile::fill(void* band, const GridPlacement& placement, const LoadProgress& progress, Grid& grid)
 {
     static const QRegularExpression origin("^.*, band \\d+: ");
     const GdalMessages messages;
-    if (!readRows(band, placement, grid))
+    GridReader reader(band);
+    reader.setReversed(placement.columnsReversed, placement.rowsReversed);
+    GridPart window = m_part;
+    if (placement.columnsReversed)
+        window.column = GDALGetRasterBandXSize(band) - m_part.column - m_part.columns;
+    if (placement.rowsReversed)
+        window.row = GDALGetRasterBandYSize(band) - m_part.row - m_part.rows;
+    if (!reader.read(window, grid, progress)) {
+        if (progress.isCancelled())
+            return false;
         return fail(tr("\"%1\" cannot be read: %2.").arg(m_name, messages.failure().remove(origin)));
+    }
+    return checkHeights(grid);
+}
+
+bool GridFile::checkHeights(Grid& grid)
+{
     grid.measure();
     if (grid.validNodes == 0)
         return fail(tr("\"%1\" holds no heights: every node is missing.").arg(m_name));
@@ -210,32 +251,29 @@ bool GridFile::fill(void* band, const GridPlacement& placement, Grid& grid)
     return true;
 }
 
-bool GridFile::read(Grid& grid, int bandNumber)
+bool GridFile::read(Grid& grid, int bandNumber, const GridChoice& choice, const LoadProgress& progress)
 {
     m_error.clear();
     const GdalMessages messages;
+    GDALAllRegister();
+    tellOfOpening(m_name, progress);
     const Dataset dataset = openDataset(m_name);
     if (!dataset)
         return fail(openingFailure(messages.failure()));
     GridPlacement placement;
     if (!checkBand(dataset.get(), bandNumber) || !place(dataset.get(), placement))
         return false;
-    const GDALRasterBandH band = GDALGetRasterBand(dataset.get(), bandNumber);
+    const GridLayout file{GDALGetRasterXSize(dataset.get()),
+                          GDALGetRasterYSize(dataset.get()),
+                          {placement.xMin, placement.xMax, placement.yMin, placement.yMax}};
     Grid found;
-    try {
-        found.allocate(GDALGetRasterXSize(dataset.get()), GDALGetRasterYSize(dataset.get()));
-    } catch (const std::bad_alloc&) {
-        const MemoryNeed need(GDALGetRasterXSize(dataset.get()), GDALGetRasterYSize(dataset.get()));
-        return fail(tr("\"%1\" needs about %2, which cannot be had.").arg(m_name, need.text()));
-    }
-    found.xMin = placement.xMin;
-    found.xMax = placement.xMax;
-    found.yMin = placement.yMin;
-    found.yMax = placement.yMax;
+    if (!choosePart(choice, placement, file) || !allocate(m_part.thinned(choice.budget), found))
+        return false;
+    const GDALRasterBandH band = GDALGetRasterBand(dataset.get(), bandNumber);
     nameAxes(dataset.get(), found);
     found.name = QString::fromUtf8(GDALGetDescription(band));
     found.unit = QString::fromUtf8(GDALGetRasterUnitType(band));
-    if (!fill(band, placement, found))
+    if (!fill(band, placement, progress, found))
         return false;
     grid = std::move(found);
     return true;

@@ -6,17 +6,30 @@
 #include "gradients/gradientpresets.h"
 #include "plotpage.h"
 #include "plots/baseplot.h"
+#include "progressline.h"
 #include "templateoption.h"
 #include "viewerwindow.h"
 
 #include <QApplication>
 #include <QLoggingCategory>
 
+#include <csignal>
 #include <cstdio>
 
 namespace {
 
 constexpr QSize usualPicture(1000, 750);
+constexpr int interruptedStatus = 128 + SIGINT;
+
+volatile std::sig_atomic_t interruptions = 0;
+
+/// The first interruption ends the work at its next step, so that no unfinished file stays behind. The second
+/// ends the program.
+void interrupt(int signal)
+{
+    interruptions = 1;
+    std::signal(signal, SIG_DFL);
+}
 
 void describeApplication()
 {
@@ -42,7 +55,7 @@ std::unique_ptr<PlotSource> sourceOf(const CommandLine& wanted)
 {
     std::unique_ptr<PlotSource> source;
     if (wanted.formula().isEmpty())
-        source = sourceOfFile(wanted.file(), wanted.band());
+        source = sourceOfFile(wanted.file(), wanted.band(), wanted.choice());
     else
         source = std::make_unique<FormulaSource>(wanted.formula(), wanted.area());
     source->setLogarithmic(wanted.logarithmic());
@@ -73,16 +86,24 @@ void tellNotes(const PlotSource& source)
 {
     for (const QString& note : source.notes())
         std::fprintf(stderr, "voranview: %s\n", qPrintable(note));
+    if (source.isThinned())
+        std::fprintf(stderr, "voranview: %s\n",
+                     qPrintable(QCoreApplication::translate(
+                         "main", "--part shows a part of it in full, --budget more nodes of all of it.")));
 }
 
-int savePictures(Zel3D::BasePlot& plot, const CommandLine& wanted, const QSize& size)
+int savePictures(Zel3D::BasePlot& plot, const CommandLine& wanted, const QSize& size, ProgressLine& line)
 {
     Zel3D::PictureOptions options;
     options.pixels = size;
     options.transparent = wanted.isTransparent();
     for (const WantedPicture& picture : wanted.pictures()) {
+        options.progress = line.pictureProgress(picture.path);
         const Zel3D::PictureResult result =
             Zel3D::PictureWriter::save(plot, picture.path, options, picture.format);
+        line.clear();
+        if (result.cancelled)
+            return interruptedStatus;
         if (!result.done)
             return refuse(result.message);
         if (!result.message.isEmpty())
@@ -93,8 +114,13 @@ int savePictures(Zel3D::BasePlot& plot, const CommandLine& wanted, const QSize& 
 
 int takePictures(const CommandLine& wanted)
 {
+    std::signal(SIGINT, interrupt);
+    ProgressLine line(stderr, [] { return interruptions != 0; });
     const std::unique_ptr<PlotSource> source = sourceOf(wanted);
-    const std::unique_ptr<PlotView> view = source->open();
+    const std::unique_ptr<PlotView> view = source->open(line.loadProgress(source->name()));
+    line.clear();
+    if (source->isCancelled())
+        return interruptedStatus;
     if (!view)
         return refuse(source->error());
     tellNotes(*source);
@@ -107,7 +133,7 @@ int takePictures(const CommandLine& wanted)
         view->setLook(*wanted.look());
     view->resetView();
     QString error;
-    return dress(*view, wanted, error) ? savePictures(plot, wanted, size) : refuse(error);
+    return dress(*view, wanted, error) ? savePictures(plot, wanted, size, line) : refuse(error);
 }
 
 int showWindow(const CommandLine& wanted)
@@ -119,8 +145,10 @@ int showWindow(const CommandLine& wanted)
         window.preferences().setStyle(wanted.kind(), *wanted.style());
     QString error;
     if (!wanted.file().isEmpty() || !wanted.formula().isEmpty()) {
-        if (!window.present(sourceOf(wanted), error))
+        if (!window.present(sourceOf(wanted), error) && !error.isEmpty())
             return refuse(error);
+    }
+    if (window.page()) {
         tellNotes(window.page()->source());
         // Over what was kept of the data.
         if (wanted.look())

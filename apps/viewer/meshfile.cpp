@@ -1,6 +1,7 @@
 #include "meshfile.h"
 
 #include "assimpmessages.h"
+#include "assimpprogress.h"
 #include "filecheck.h"
 #include "memoryneed.h"
 #include "meshmerger.h"
@@ -18,6 +19,12 @@ namespace {
 /// Memory for a byte of a file: up to 7 while reading (measured with OFF and binary STL), the rest for the
 /// plot.
 constexpr double bytesPerByte = 20.0;
+
+/// Of the time that reading and merging take: less with most formats, more with those whose readers report.
+constexpr double readingPart = 0.3;
+
+/// What readers that cannot report take about.
+constexpr double bytesPerSecond = 4e7;
 
 } // namespace
 
@@ -52,15 +59,23 @@ QString MeshFile::openingFailure(const QString& reason) const
     return tr("\"%1\" cannot be read: %2.").arg(m_path, plain);
 }
 
-bool MeshFile::readScene(Mesh& mesh)
+bool MeshFile::readScene(Mesh& mesh, const LoadProgress& progress)
 {
+    // The readers of few formats report.
+    if (!progress.busy(LoadProgress::Reading, double(QFileInfo(m_path).size()) / bytesPerSecond))
+        return false;
     const AssimpMessages messages;
     Assimp::Importer importer;
+    // The importer owns it.
+    importer.SetProgressHandler(new AssimpProgress(progress.section(0.0, readingPart)));
     const aiScene* scene = importer.ReadFile(QFile::encodeName(m_path).toStdString(), 0);
+    if (progress.isCancelled())
+        return false;
     if (!scene || !scene->mRootNode)
         return fail(openingFailure(QString::fromUtf8(importer.GetErrorString())));
     MeshMerger merger;
-    merger.take(*scene);
+    if (!merger.take(*scene, progress.section(readingPart, 1.0)))
+        return false;
     if (merger.cells() == 0 && merger.flat() > 0)
         return fail(tr("\"%1\" holds no face with an area; there is nothing to draw.").arg(m_path));
     if (merger.cells() == 0)
@@ -71,13 +86,13 @@ bool MeshFile::readScene(Mesh& mesh)
     return true;
 }
 
-bool MeshFile::read(Mesh& mesh)
+bool MeshFile::read(Mesh& mesh, const LoadProgress& progress)
 {
     m_error.clear();
     if (!checkFile())
         return false;
     try {
-        return readScene(mesh);
+        return readScene(mesh, progress);
     } catch (const std::bad_alloc&) {
         return fail(tr("\"%1\" needs more memory than can be had.").arg(m_path));
     }

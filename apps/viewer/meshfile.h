@@ -1,5 +1,6 @@
 #pragma once
 
+#include "loadprogress.h"
 #include "mesh.h"
 
 #include <QCoreApplication>
@@ -19,15 +20,15 @@ public:
     explicit MeshFile(const QString& path);
 
     /// Reads the file and replaces the mesh. False when that fails: the mesh is as it was then and error()
-    /// says why.
-    bool read(Mesh& mesh);
+    /// says why, or is empty when the progress was cancelled.
+    bool read(Mesh& mesh, const LoadProgress& progress = {});
     /// One sentence that names the file and the reason; empty after a success.
     const QString& error() const { return m_error; }
 
 private:
     bool fail(const QString& sentence);
     bool checkFile();
-    bool readScene(Mesh& mesh);
+    bool readScene(Mesh& mesh, const LoadProgress& progress);
     QString openingFailure(const QString& reason) const;
 
     QString m_path;

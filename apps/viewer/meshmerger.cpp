@@ -11,6 +11,8 @@ namespace {
 
 constexpr unsigned int noVertex = std::numeric_limits<unsigned int>::max();
 
+constexpr unsigned int facesBetweenReports = 1024;
+
 /// What joins coloured meshes without colours.
 constexpr QRgb uncolored = qRgb(160, 160, 160);
 
@@ -36,19 +38,34 @@ std::size_t MeshMerger::PlaceHash::operator()(const Place& place) const
     return seed ^ (seed >> 29);
 }
 
-void MeshMerger::take(const aiScene& scene)
+bool MeshMerger::take(const aiScene& scene, const LoadProgress& progress)
 {
-    takeNode(scene, *scene.mRootNode, aiMatrix4x4());
+    m_progress = progress;
+    for (unsigned int i = 0; i < scene.mNumMeshes; ++i)
+        m_faces += scene.mMeshes[i]->mNumFaces;
+    const bool whole = takeNode(scene, *scene.mRootNode, aiMatrix4x4());
     m_places.clear();
+    return whole;
 }
 
-void MeshMerger::takeNode(const aiScene& scene, const aiNode& node, const aiMatrix4x4& above)
+/// Scenes that show a mesh several times have more faces than meshes tell; the progress waits at its end.
+bool MeshMerger::report()
+{
+    return m_progress(m_taken / std::max(m_faces, 1.0));
+}
+
+bool MeshMerger::takeNode(const aiScene& scene, const aiNode& node, const aiMatrix4x4& above)
 {
     const aiMatrix4x4 transform = above * node.mTransformation;
-    for (unsigned int i = 0; i < node.mNumMeshes; ++i)
-        takeMesh(*scene.mMeshes[node.mMeshes[i]], transform);
-    for (unsigned int i = 0; i < node.mNumChildren; ++i)
-        takeNode(scene, *node.mChildren[i], transform);
+    for (unsigned int i = 0; i < node.mNumMeshes; ++i) {
+        if (!takeMesh(*scene.mMeshes[node.mMeshes[i]], transform))
+            return false;
+    }
+    for (unsigned int i = 0; i < node.mNumChildren; ++i) {
+        if (!takeNode(scene, *node.mChildren[i], transform))
+            return false;
+    }
+    return true;
 }
 
 unsigned int MeshMerger::vertexAt(const Place& place, QRgb color)
@@ -80,45 +97,53 @@ bool MeshMerger::hasArea(const QVector<unsigned int>& cell) const
     return sum != std::array<double, 3>{};
 }
 
-void MeshMerger::takeMesh(const aiMesh& mesh, const aiMatrix4x4& transform)
+void MeshMerger::takeFace(const aiMesh& mesh, const aiFace& face, const aiMatrix4x4& transform, bool mirrored)
+{
+    if (face.mNumIndices == 1 || face.mNumIndices == 2) {
+        ++m_pointsAndLines;
+        return;
+    }
+    QVector<unsigned int> cell;
+    bool finite = true;
+    for (unsigned int k = 0; k < face.mNumIndices; ++k) {
+        const aiVector3D at = transform * mesh.mVertices[face.mIndices[k]];
+        finite = finite && std::isfinite(at.x) && std::isfinite(at.y) && std::isfinite(at.z);
+        if (!finite)
+            break;
+        const unsigned int vertex = vertexAt({at.x, at.y, at.z}, colorOf(mesh, face.mIndices[k]));
+        if (cell.isEmpty() || cell.back() != vertex)
+            cell.append(vertex);
+    }
+    while (cell.size() > 1 && cell.front() == cell.back())
+        cell.removeLast();
+    if (!finite)
+        ++m_infinite;
+    else if (cell.size() < 3 || !hasArea(cell))
+        ++m_flat;
+    else {
+        if (mirrored)
+            std::reverse(cell.begin(), cell.end());
+        m_mesh.cells.append(cell);
+    }
+}
+
+bool MeshMerger::takeMesh(const aiMesh& mesh, const aiMatrix4x4& transform)
 {
     m_colored = m_colored || mesh.HasVertexColors(0);
     // A transform that mirrors turns the winding round.
     const bool mirrored = transform.Determinant() < 0;
     std::vector<bool> used(mesh.mNumVertices, false);
-    QVector<unsigned int> cell;
     for (unsigned int i = 0; i < mesh.mNumFaces; ++i) {
         const aiFace& face = mesh.mFaces[i];
         for (unsigned int k = 0; k < face.mNumIndices; ++k)
             used[face.mIndices[k]] = true;
-        if (face.mNumIndices == 1 || face.mNumIndices == 2) {
-            ++m_pointsAndLines;
-            continue;
-        }
-        cell.clear();
-        bool finite = true;
-        for (unsigned int k = 0; k < face.mNumIndices; ++k) {
-            const aiVector3D at = transform * mesh.mVertices[face.mIndices[k]];
-            finite = finite && std::isfinite(at.x) && std::isfinite(at.y) && std::isfinite(at.z);
-            if (!finite)
-                break;
-            const unsigned int vertex = vertexAt({at.x, at.y, at.z}, colorOf(mesh, face.mIndices[k]));
-            if (cell.isEmpty() || cell.back() != vertex)
-                cell.append(vertex);
-        }
-        while (cell.size() > 1 && cell.front() == cell.back())
-            cell.removeLast();
-        if (!finite)
-            ++m_infinite;
-        else if (cell.size() < 3 || !hasArea(cell))
-            ++m_flat;
-        else {
-            if (mirrored)
-                std::reverse(cell.begin(), cell.end());
-            m_mesh.cells.append(cell);
-        }
+        takeFace(mesh, face, transform, mirrored);
+        ++m_taken;
+        if (i % facesBetweenReports == 0 && !report())
+            return false;
     }
     m_unused += static_cast<int>(std::count(used.begin(), used.end(), false));
+    return report();
 }
 
 Mesh MeshMerger::finish()

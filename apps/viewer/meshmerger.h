@@ -1,5 +1,6 @@
 #pragma once
 
+#include "loadprogress.h"
 #include "mesh.h"
 
 #include <QCoreApplication>
@@ -9,6 +10,7 @@
 
 #include <assimp/matrix4x4.h>
 
+struct aiFace;
 struct aiMesh;
 struct aiNode;
 struct aiScene;
@@ -19,8 +21,8 @@ class MeshMerger
     Q_DECLARE_TR_FUNCTIONS(MeshMerger)
 
 public:
-    /// Throws std::bad_alloc.
-    void take(const aiScene& scene);
+    /// False when the load is cancelled. Throws std::bad_alloc.
+    bool take(const aiScene& scene, const LoadProgress& progress);
     /// The mesh with its notes. Empties the merger.
     Mesh finish();
 
@@ -44,12 +46,17 @@ private:
         std::size_t operator()(const Place& place) const;
     };
 
-    void takeNode(const aiScene& scene, const aiNode& node, const aiMatrix4x4& above);
-    void takeMesh(const aiMesh& mesh, const aiMatrix4x4& transform);
+    bool takeNode(const aiScene& scene, const aiNode& node, const aiMatrix4x4& above);
+    bool takeMesh(const aiMesh& mesh, const aiMatrix4x4& transform);
+    void takeFace(const aiMesh& mesh, const aiFace& face, const aiMatrix4x4& transform, bool mirrored);
+    bool report();
     unsigned int vertexAt(const Place& place, QRgb color);
     bool hasArea(const QVector<unsigned int>& cell) const;
 
     Mesh m_mesh;
+    LoadProgress m_progress;
+    double m_faces = 0.0; ///< of the scene
+    double m_taken = 0.0; ///< of them
     std::unordered_map<Place, unsigned int, PlaceHash> m_places;
     bool m_colored = false;
     int m_flat = 0;

@@ -11,6 +11,9 @@
 
 namespace {
 
+// Taking the cells and the first picture of them.
+constexpr double secondsPerCell = 2e-6;
+
 constexpr float flatPart = 0.25F;
 
 /// Whether the y axis points upwards, which no mesh file says. Most formats have it so by custom; printers
@@ -29,12 +32,14 @@ MeshSource::MeshSource(const QString& path) : m_path(path)
     setName(QFileInfo(path).fileName());
 }
 
-std::unique_ptr<PlotView> MeshSource::read()
+std::unique_ptr<PlotView> MeshSource::read(const LoadProgress& progress)
 {
     Mesh mesh;
     MeshFile reader(m_path);
-    if (!reader.read(mesh))
+    if (!reader.read(mesh, progress))
         return fail(reader.error());
+    if (!progress.busy(LoadProgress::Drawing, mesh.cells.size() * secondsPerCell))
+        return nullptr;
     auto plot = std::make_unique<ViewerPlot>();
     if (!plot->load(mesh))
         return failToDraw();

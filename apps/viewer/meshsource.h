@@ -15,7 +15,7 @@ public:
     QString filePath() const override { return m_path; }
 
 protected:
-    std::unique_ptr<PlotView> read() override;
+    std::unique_ptr<PlotView> read(const LoadProgress& progress) override;
 
 private:
     QString m_path;

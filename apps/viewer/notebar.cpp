@@ -6,7 +6,7 @@
 #include <QStyle>
 #include <QToolButton>
 
-NoteBar::NoteBar(const QStringList& notes, QWidget* parent) : QFrame(parent), m_notes(notes)
+NoteBar::NoteBar(const QStringList& notes, bool offersParts, QWidget* parent) : QFrame(parent), m_notes(notes)
 {
     setObjectName("notes");
     setFrameShape(QFrame::StyledPanel);
@@ -27,6 +27,14 @@ NoteBar::NoteBar(const QStringList& notes, QWidget* parent) : QFrame(parent), m_
         details->setAutoRaise(true);
         connect(details, &QToolButton::clicked, this, &NoteBar::showAll);
         layout->addWidget(details);
+    }
+    if (offersParts) {
+        auto* part = new QToolButton;
+        part->setObjectName("openPart");
+        part->setText(tr("Open part..."));
+        part->setToolTip(tr("Choose a part and show all its nodes"));
+        connect(part, &QToolButton::clicked, this, &NoteBar::partWanted);
+        layout->addWidget(part);
     }
     auto* close = new QToolButton;
     close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));

@@ -8,8 +8,12 @@ class NoteBar : public QFrame
 {
     Q_OBJECT
 public:
-    /// At least one sentence.
-    explicit NoteBar(const QStringList& notes, QWidget* parent = nullptr);
+    /// At least one sentence; where nodes were left out, parts are offered.
+    explicit NoteBar(const QStringList& notes, bool offersParts = false, QWidget* parent = nullptr);
+
+signals:
+    /// The person asks for a part.
+    void partWanted();
 
 private:
     void showAll();

@@ -6,7 +6,7 @@
 #include "picturedialog.h"
 #include "plotpage.h"
 #include "plots/baseplot.h"
-#include "watersimulation.h"
+#include "progressbox.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -17,7 +17,6 @@
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QProgressDialog>
 #include <QSettings>
 #include <QStatusBar>
 
@@ -28,62 +27,6 @@ constexpr char framesKey[] = "picture/frames";
 constexpr int usualFrames = 72;
 constexpr int mostFrames = 3600;
 constexpr int messageTime = 8000;
-
-/// While it lives the plot stays as it is, although the progress takes events: nothing is dropped on the
-/// window and nothing moves.
-class Standstill
-{
-public:
-    Standstill(QMainWindow& window, PlotPage& page)
-        : m_window(window),
-          m_simulation(page.source().simulation()),
-          m_moving(m_simulation != nullptr && m_simulation->isStarted())
-    {
-        m_window.setAcceptDrops(false);
-        if (m_moving)
-            m_simulation->setStarted(false);
-    }
-    ~Standstill()
-    {
-        m_window.setAcceptDrops(true);
-        if (m_moving)
-            m_simulation->setStarted(true);
-    }
-    Standstill(const Standstill&) = delete;
-    Standstill& operator=(const Standstill&) = delete;
-
-private:
-    QMainWindow& m_window;
-    WaterSimulation* m_simulation;
-    const bool m_moving;
-};
-
-/// A box with a bar, which appears when the work takes long and can stop it.
-class ProgressBox
-{
-public:
-    ProgressBox(const QString& title, QMainWindow& window, PlotPage& page)
-        : m_still(window, page), m_box(title, QObject::tr("Cancel"), 0, 0, &window)
-    {
-        m_box.setWindowTitle(title);
-        m_box.setWindowModality(Qt::WindowModal);
-        // It stays for what follows the last step.
-        m_box.setAutoReset(false);
-    }
-
-    Zel3D::PictureOptions::Progress progress()
-    {
-        return [this](int done, int total) {
-            m_box.setMaximum(total);
-            m_box.setValue(done);
-            return !m_box.wasCanceled();
-        };
-    }
-
-private:
-    Standstill m_still;
-    QProgressDialog m_box;
-};
 
 } // namespace
 
@@ -135,7 +78,7 @@ void PictureActions::save()
         return;
     Zel3D::PictureResult result;
     {
-        ProgressBox box(tr("Save picture"), m_window, *m_page);
+        ProgressBox box(tr("Save picture"), m_window, m_page);
         Zel3D::PictureOptions options = dialog.options();
         options.progress = box.progress();
         result = Zel3D::PictureWriter::save(m_page->plot(), dialog.path(), options);
@@ -167,7 +110,7 @@ void PictureActions::saveTurntable()
     settings.setValue(folderKey, QFileInfo(path).absolutePath());
     Zel3D::PictureResult result;
     {
-        ProgressBox box(tr("Save turntable"), m_window, *m_page);
+        ProgressBox box(tr("Save turntable"), m_window, m_page);
         Zel3D::PictureOptions options;
         options.progress = box.progress();
         Zel3D::Turntable table(m_page->plot(), options);
@@ -190,7 +133,7 @@ void PictureActions::print()
         return;
     QString error;
     {
-        ProgressBox box(tr("Print"), m_window, *m_page);
+        ProgressBox box(tr("Print"), m_window, m_page);
         Zel3D::PictureOptions options;
         options.progress = box.progress();
         Zel3D::PicturePrinter pages(m_page->plot(), options);
@@ -203,7 +146,7 @@ void PictureActions::print()
 
 void PictureActions::preview()
 {
-    const Standstill still(m_window, *m_page);
+    const Standstill still(m_window, m_page);
     Zel3D::PicturePrinter pages(m_page->plot());
     pages.preview(&m_window);
     if (!pages.getError().isEmpty())

@@ -12,7 +12,10 @@ PlotPage::PlotPage(std::unique_ptr<PlotSource> source, std::unique_ptr<PlotView>
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(&plot(), 1);
-    if (!m_source->notes().isEmpty())
-        layout->addWidget(new NoteBar(m_source->notes()));
+    if (!m_source->notes().isEmpty()) {
+        auto* notes = new NoteBar(m_source->notes(), m_source->isThinned());
+        layout->addWidget(notes);
+        connect(notes, &NoteBar::partWanted, this, &PlotPage::partWanted);
+    }
     setFocusProxy(&plot());
 }

@@ -17,6 +17,10 @@ public:
     PlotView& view() { return *m_view; }
     Zel3D::BasePlot& plot() { return m_view->plot(); }
 
+signals:
+    /// The person wants to see a part of what is shown thinned.
+    void partWanted();
+
 private:
     std::unique_ptr<PlotSource> m_source;
     std::unique_ptr<PlotView> m_view;

@@ -4,10 +4,18 @@
 
 #include <QCoreApplication>
 
-std::unique_ptr<PlotView> PlotSource::open()
+std::unique_ptr<PlotView> PlotSource::open(const LoadProgress& progress)
 {
     m_error.clear();
-    std::unique_ptr<PlotView> view = read();
+    std::unique_ptr<PlotView> view = read(progress);
+    // What was clicked while the plot took the data is heard before its first picture.
+    if (view)
+        progress.busy(LoadProgress::Drawing, 0.0);
+    m_cancelled = progress.isCancelled();
+    if (m_cancelled) {
+        m_error.clear();
+        return nullptr;
+    }
     if (view)
         view->plot().slotSetTitle(m_name);
     return view;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "loadprogress.h"
 #include "plotview.h"
 
 #include <QString>
@@ -20,10 +21,14 @@ public:
     PlotSource& operator=(const PlotSource&) = delete;
 
     /// Reads what is to be shown into a new plot, which must not outlive the source. Null when that fails:
-    /// error() says why.
-    std::unique_ptr<PlotView> open();
+    /// error() says why, unless the progress was cancelled, which isCancelled() tells.
+    std::unique_ptr<PlotView> open(const LoadProgress& progress = {});
+    bool isCancelled() const { return m_cancelled; }
     /// Which of x, y and z are logarithmic; before open(). Meshes and computed surfaces leave it out.
     void setLogarithmic(const std::array<bool, 3>& directions) { m_logarithmic = directions; }
+    const std::array<bool, 3>& logarithmic() const { return m_logarithmic; }
+    /// Whether open() left out nodes, so that a part of the source shows more.
+    virtual bool isThinned() const { return false; }
     /// The file, for a source that is one.
     virtual QString filePath() const { return QString(); }
     /// What is said of a picked place, or empty to say its coordinates.
@@ -37,12 +42,12 @@ public:
     const QString& description() const { return m_description; }
     /// Sentences on what was changed or left out while reading.
     const QStringList& notes() const { return m_notes; }
-    /// One sentence; empty after a success.
+    /// One sentence; empty after a success and when the progress was cancelled.
     const QString& error() const { return m_error; }
 
 protected:
     /// Does the work of open().
-    virtual std::unique_ptr<PlotView> read() = 0;
+    virtual std::unique_ptr<PlotView> read(const LoadProgress& progress) = 0;
     /// What a plot must know before it takes data.
     void prepare(Zel3D::BasePlot& plot) const;
     void setName(const QString& name) { m_name = name; }
@@ -59,4 +64,5 @@ private:
     QString m_description;
     QStringList m_notes;
     QString m_error;
+    bool m_cancelled = false;
 };

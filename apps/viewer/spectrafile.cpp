@@ -105,13 +105,15 @@ bool SpectraFile::checkSize(qint64 size, const QByteArray& start, char delimiter
                          MemoryNeed::gigabytes(*freeBytes)));
 }
 
-bool SpectraFile::readTable(QFile& file, char delimiter, Spectra& spectra)
+bool SpectraFile::readTable(QFile& file, char delimiter, Spectra& spectra, const LoadProgress& progress)
 {
     SpectraTable table(delimiter);
     CsvReader reader(delimiter, [&table](const CsvRecord& record) { return table.take(record); });
     bool goesOn = true;
     std::vector<char> bytes(chunk);
     while (goesOn) {
+        if (!progress(double(file.pos()) / double(file.size())))
+            return false;
         const qint64 count = file.read(bytes.data(), chunk);
         if (count < 0)
             return fail(tr("\"%1\" cannot be read: %2.").arg(m_path, file.errorString()));
@@ -119,6 +121,8 @@ bool SpectraFile::readTable(QFile& file, char delimiter, Spectra& spectra)
             break;
         goesOn = reader.feed(bytes.data(), static_cast<std::size_t>(count));
     }
+    if (!progress(1.0))
+        return false;
     Spectra found;
     const bool whole = goesOn && reader.finish() && table.finish(found);
     if (!whole)
@@ -130,7 +134,7 @@ bool SpectraFile::readTable(QFile& file, char delimiter, Spectra& spectra)
     return true;
 }
 
-bool SpectraFile::read(Spectra& spectra)
+bool SpectraFile::read(Spectra& spectra, const LoadProgress& progress)
 {
     m_error.clear();
     if (!checkFile())
@@ -147,7 +151,8 @@ bool SpectraFile::read(Spectra& spectra)
     }
     try {
         const char delimiter = findDelimiter(start);
-        return checkSize(file.bytesAvailable(), start, delimiter) && readTable(file, delimiter, spectra);
+        return checkSize(file.bytesAvailable(), start, delimiter) &&
+               readTable(file, delimiter, spectra, progress);
     } catch (const std::bad_alloc&) {
         return fail(tr("\"%1\" needs more memory than can be had.").arg(m_path));
     }

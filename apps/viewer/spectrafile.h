@@ -1,5 +1,6 @@
 #pragma once
 
+#include "loadprogress.h"
 #include "spectra.h"
 
 #include <QCoreApplication>
@@ -20,8 +21,8 @@ public:
     explicit SpectraFile(const QString& path);
 
     /// Reads the file and replaces the spectra. False when that fails: the spectra are as they were then and
-    /// error() says why.
-    bool read(Spectra& spectra);
+    /// error() says why, or is empty when the progress was cancelled.
+    bool read(Spectra& spectra, const LoadProgress& progress = {});
     /// One sentence that names the file, the place and the reason; empty after a success.
     const QString& error() const { return m_error; }
 
@@ -30,7 +31,7 @@ private:
     bool checkFile();
     bool checkText(const QByteArray& start);
     bool checkSize(qint64 size, const QByteArray& start, char delimiter);
-    bool readTable(QFile& file, char delimiter, Spectra& spectra);
+    bool readTable(QFile& file, char delimiter, Spectra& spectra, const LoadProgress& progress);
 
     QString m_path;
     QString m_error;

@@ -12,6 +12,9 @@
 
 namespace {
 
+// Taking the values and the first picture of them.
+constexpr double secondsPerValue = 1.5e-6;
+
 // Enough for seconds since 1970.
 constexpr int digits = 10;
 
@@ -28,23 +31,25 @@ SpectraSource::SpectraSource(const QString& path) : m_path(path)
     setName(QFileInfo(path).fileName());
 }
 
-std::unique_ptr<PlotView> SpectraSource::read()
+std::unique_ptr<PlotView> SpectraSource::read(const LoadProgress& progress)
 {
     Spectra spectra;
     SpectraFile reader(m_path);
-    if (!reader.read(spectra))
+    if (!reader.read(spectra, progress))
         return fail(reader.error());
+    std::size_t values = 0;
+    for (const auto& [position, spectrum] : spectra.map)
+        values += spectrum.size();
+    if (!progress.busy(LoadProgress::Drawing, double(values) * secondsPerValue))
+        return nullptr;
     auto plot = std::make_unique<ViewerSpectrum>();
     prepare(*plot);
     if (!plot->load(spectra))
         return failToDraw();
     m_label = spectra.spectraLabel;
-    std::size_t values = 0;
     int index = 0;
-    for (const auto& [position, spectrum] : spectra.map) {
-        values += spectrum.size();
+    for (const auto& [position, spectrum] : spectra.map)
         m_names[position] = spectra.names.value(index++);
-    }
     const QString box = tr("%1 to %2, values %3 to %4")
                             .arg(plot->lower()[0], 0, 'g', digits)
                             .arg(plot->upper()[0], 0, 'g', digits)

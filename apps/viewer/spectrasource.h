@@ -19,7 +19,7 @@ public:
     QString describe(const Zel3D::SelectedObjectsInfo& place) const override;
 
 protected:
-    std::unique_ptr<PlotView> read() override;
+    std::unique_ptr<PlotView> read(const LoadProgress& progress) override;
 
 private:
     QString m_path;

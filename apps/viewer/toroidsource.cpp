@@ -15,7 +15,7 @@ ToroidSource::ToroidSource()
     setName(tr("Toroid"));
 }
 
-std::unique_ptr<PlotView> ToroidSource::read()
+std::unique_ptr<PlotView> ToroidSource::read(const LoadProgress& /*progress*/)
 {
     Zel3D::Toroid toroid;
     toroid.setMesh(around, across);

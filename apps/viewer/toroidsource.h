@@ -13,5 +13,5 @@ public:
     ToroidSource();
 
 protected:
-    std::unique_ptr<PlotView> read() override;
+    std::unique_ptr<PlotView> read(const LoadProgress& progress) override;
 };

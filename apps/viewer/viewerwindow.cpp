@@ -3,10 +3,12 @@
 #include "filesource.h"
 #include "formuladialog.h"
 #include "formulasource.h"
+#include "partaction.h"
 #include "pictureactions.h"
 #include "plothost.h"
 #include "plotpage.h"
 #include "plots/baseplot.h"
+#include "progressbox.h"
 #include "recentfiles.h"
 #include "recentmenu.h"
 #include "startpage.h"
@@ -22,6 +24,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QSettings>
 #include <QStackedWidget>
@@ -53,11 +56,11 @@ QString subjectOf(const PlotSource& source)
     return file.isEmpty() ? source.name() : QFileInfo(file).absoluteFilePath() + ' ' + source.name();
 }
 
-/// The waiting cursor while the object lives.
+/// The cursor of work while the object lives; the progress can still be clicked on.
 class WaitCursor
 {
 public:
-    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    WaitCursor() { QApplication::setOverrideCursor(Qt::BusyCursor); }
     ~WaitCursor() { QApplication::restoreOverrideCursor(); }
     WaitCursor(const WaitCursor&) = delete;
     WaitCursor& operator=(const WaitCursor&) = delete;
@@ -135,6 +138,9 @@ void ViewerWindow::createFileMenu()
         menu->addAction(icon("open"), tr("&Open..."), this, &ViewerWindow::chooseFile, QKeySequence::Open);
     m_recentMenu = new RecentMenu(this);
     menu->addMenu(m_recentMenu);
+    m_partAction = new PartAction(*this, *menu, [this](std::unique_ptr<PlotSource> source, QString& error) {
+        return present(std::move(source), error);
+    });
     connect(m_recentMenu, &RecentMenu::chosen, this, &ViewerWindow::openFile);
     menu->addSeparator();
     m_pictures = new PictureActions(*this, *menu, *menuBar()->addMenu(tr("&Edit")));
@@ -192,6 +198,7 @@ void ViewerWindow::removePage()
     m_page.reset();
     m_plotMenu->menuAction()->setEnabled(false);
     m_pictures->setPage(nullptr);
+    m_partAction->setPage(nullptr);
     m_closeAction->setEnabled(false);
     m_statusAction->setEnabled(false);
     setWindowTitle(tr("voranview"));
@@ -211,6 +218,7 @@ void ViewerWindow::placePage(std::unique_ptr<PlotPage> page)
     statusBar()->setVisible(m_statusAction->isChecked());
     m_plotMenu->menuAction()->setEnabled(true);
     m_pictures->setPage(m_page.get());
+    m_partAction->setPage(m_page.get());
     m_closeAction->setEnabled(true);
     m_statusAction->setEnabled(true);
     setWindowTitle(tr("%1 - voranview").arg(m_page->source().name()));
@@ -220,8 +228,13 @@ void ViewerWindow::placePage(std::unique_ptr<PlotPage> page)
 
 bool ViewerWindow::present(std::unique_ptr<PlotSource> source, QString& error)
 {
+    // The progress takes events: one at a time.
+    if (m_loading)
+        return false;
     const WaitCursor waiting;
-    std::unique_ptr<PlotView> view = source->open();
+    ProgressBox progress(tr("Open"), *this, m_page.get());
+    const QScopedValueRollback<ProgressBox*> loading(m_loading, &progress);
+    std::unique_ptr<PlotView> view = source->open(progress.loadProgress(source->name()));
     if (!view) {
         error = source->error();
         return false;
@@ -231,6 +244,7 @@ bool ViewerWindow::present(std::unique_ptr<PlotSource> source, QString& error)
     // Some names of grids inside files are no paths.
     if (QFileInfo::exists(file))
         RecentFiles::add(file);
+    progress.paintWindow();
     return true;
 }
 
@@ -242,7 +256,7 @@ bool ViewerWindow::open(const QString& path, int band, QString& error)
 void ViewerWindow::openFile(const QString& path)
 {
     QString error;
-    if (open(path, 1, error))
+    if (open(path, 1, error) || error.isEmpty())
         return;
     if (!QFileInfo::exists(path))
         RecentFiles::remove(path);
@@ -252,7 +266,7 @@ void ViewerWindow::openFile(const QString& path)
 void ViewerWindow::showPlot(std::unique_ptr<PlotSource> source)
 {
     QString error;
-    if (!present(std::move(source), error))
+    if (!present(std::move(source), error) && !error.isEmpty())
         QMessageBox::warning(this, tr("New"), error);
 }
 
@@ -316,6 +330,11 @@ void ViewerWindow::changeEvent(QEvent* event)
 
 void ViewerWindow::closeEvent(QCloseEvent* event)
 {
+    if (m_loading) {
+        m_loading->closeWindowAfterwards();
+        event->ignore();
+        return;
+    }
     remember();
     QMainWindow::closeEvent(event);
 }

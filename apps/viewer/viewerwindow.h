@@ -6,10 +6,12 @@
 
 #include <memory>
 
+class PartAction;
 class PictureActions;
 class PlotHost;
 class PlotPage;
 class PlotSource;
+class ProgressBox;
 class QStackedWidget;
 class RecentMenu;
 class StartPage;
@@ -25,7 +27,7 @@ public:
     ~ViewerWindow() override;
 
     /// Shows a file of any kind; the band is for grids. False when it cannot be shown: the plot stays as it
-    /// was and \a error says why.
+    /// was and \a error says why, or is empty when the person cancelled it.
     bool open(const QString& path, int band, QString& error);
     /// The same with any source.
     bool present(std::unique_ptr<PlotSource> source, QString& error);
@@ -76,6 +78,8 @@ private:
     QList<QAction*> m_newActions;
     QAction* m_openAction = nullptr;
     PictureActions* m_pictures = nullptr;
+    PartAction* m_partAction = nullptr;
+    ProgressBox* m_loading = nullptr;
     QAction* m_closeAction = nullptr;
     QAction* m_statusAction = nullptr;
     QAction* m_fullScreenAction = nullptr;

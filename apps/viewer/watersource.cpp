@@ -26,7 +26,7 @@ WaterSource::WaterSource()
 
 WaterSource::~WaterSource() = default;
 
-std::unique_ptr<PlotView> WaterSource::read()
+std::unique_ptr<PlotView> WaterSource::read(const LoadProgress& /*progress*/)
 {
     auto plot = std::make_unique<ViewerPlot>();
     plot->setRelief(waterRelief);

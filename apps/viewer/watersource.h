@@ -16,7 +16,7 @@ public:
     WaterSimulation* simulation() override;
 
 protected:
-    std::unique_ptr<PlotView> read() override;
+    std::unique_ptr<PlotView> read(const LoadProgress& progress) override;
 
 private:
     std::unique_ptr<WaterSimulation> m_simulation;

@@ -7,6 +7,11 @@
 #include <QXmlStreamReader>
 #include <QtTest>
 
+#include <csignal>
+
+#include <fcntl.h>
+#include <unistd.h>
+
 namespace {
 
 struct Outcome
@@ -88,6 +93,7 @@ private slots:
     void optionsChangeThePicture_data();
     void optionsChangeThePicture();
     void notesGoToTheErrors();
+    void terminalFollowsAndInterrupts();
     void stylesDiffer();
     void looksDiffer();
     void failureLeavesAnExistingPicture();
@@ -157,6 +163,12 @@ void TestVoranview::refusalsAreOneSentence_data()
     refusal("range for a file", {"--range", "-3:3", example}, "--range is for a formula");
     refusal("mesh for a file", {"--mesh", "20", example}, "--mesh is for a formula");
     refusal("band of spectra", {"--band", "1", examples + "gasoline_nir.csv"}, "--band is for grid files");
+    refusal("part of spectra", {"--part", "0,0,1,1", examples + "gasoline_nir.csv"},
+            "--part is for grid files");
+    refusal("budget of a formula", {"--budget", "20000", "--function", "x"}, "--budget is for grid files");
+    refusal("part of three numbers", {"--part", "0,0,1", example}, "\"0,0,1\" is not X0,Y0,X1,Y1");
+    refusal("part of words", {"--part", "0,0,1,nan", example}, "\"0,0,1,nan\"");
+    refusal("budget too small", {"--budget", "9999", example}, "\"9999\" is not a whole number");
     refusal("view of another name", {"--view", "above", example},
             "one of top, bottom, left, right, front, back");
     refusal("view with two angles", {"--view", "10,20", example}, "\"10,20\"");
@@ -179,6 +191,8 @@ void TestVoranview::refusalsAreOneSentence_data()
                                   << "\"missing.asc\" does not exist";
     QTest::newRow("missing file for a picture") << QStringList{"missing.asc", "--png", picture}
                                                 << Screen::Virtual << "\"missing.asc\" does not exist";
+    QTest::newRow("part outside") << QStringList{example, "--part", "0,0,1,1", "--png", picture}
+                                  << Screen::Virtual << "has no nodes in that part";
     QTest::newRow("no grid") << QStringList{VORANVIEW, "--png", picture} << Screen::Virtual
                              << "no grid file of a known format";
     QTest::newRow("missing folder") << QStringList{example, "--png", m_folder.filePath("no/such/a.png")}
@@ -301,7 +315,48 @@ void TestVoranview::notesGoToTheErrors()
     QVERIFY2(outcome.errors.startsWith("voranview: The formula has no height at") &&
                  outcome.errors.count('\n') == 1,
              qPrintable(outcome.errors));
+    const Outcome thinned = runViewer({example, "--budget", "10000", "--png", path});
+    QCOMPARE(thinned.status, 0);
+    QVERIFY2(thinned.errors.startsWith("voranview: Shown thinned: 100 x 86 of 403 x 344 nodes") &&
+                 thinned.errors.contains("--part"),
+             qPrintable(thinned.errors));
+    const Outcome part =
+        runViewer({example, "--budget", "10000", "--part", "-84.3,36.5,-84.25,36.55", "--png", path});
+    QCOMPARE(part.status, 0);
+    QCOMPARE(part.errors, QString());
     QVERIFY(QFile::remove(path));
+}
+
+void TestVoranview::terminalFollowsAndInterrupts()
+{
+    const int terminal = posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK);
+    QVERIFY(terminal >= 0 && grantpt(terminal) == 0 && unlockpt(terminal) == 0);
+    const auto written = [terminal] {
+        char bytes[4096];
+        const ssize_t count = ::read(terminal, bytes, sizeof bytes);
+        return QByteArray(bytes, int(std::max<ssize_t>(count, 0)));
+    };
+    // Long enough to be interrupted on a fast machine.
+    const QString term = "+sin(x)*cos(y)";
+    QProcess process;
+    process.setStandardErrorFile(ptsname(terminal));
+    process.start(VORANVIEW, {"--function", "0" + term.repeated(100), "--mesh", "1500", "--png",
+                              m_folder.filePath("interrupted.png")});
+    QByteArray errors;
+    QElapsedTimer time;
+    time.start();
+    while (!errors.contains('%') && time.elapsed() < 60000 && !process.waitForFinished(20))
+        errors += written();
+    QVERIFY2(errors.startsWith("\rvoranview: reading 0+sin(x)"), errors.constData());
+    QCOMPARE(::kill(pid_t(process.processId()), SIGINT), 0);
+    QVERIFY(process.waitForFinished(20000));
+    errors += written();
+    ::close(terminal);
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 128 + SIGINT);
+    // The line is gone and no other one came.
+    QVERIFY2(errors.endsWith(" \r") && !errors.contains('\n'), errors.constData());
+    QVERIFY(QDir(m_folder.path()).isEmpty());
 }
 
 void TestVoranview::pictureHasTheSizeAndTheRelief_data()
