@@ -6,6 +6,7 @@
 
 #include <memory>
 
+class DataActions;
 class PictureActions;
 class PlotHost;
 class PlotPage;
@@ -76,6 +77,8 @@ private:
     QList<QAction*> m_newActions;
     QAction* m_openAction = nullptr;
     PictureActions* m_pictures = nullptr;
+    DataActions* m_data = nullptr;
+    QMenu* m_editMenu = nullptr;
     QAction* m_closeAction = nullptr;
     QAction* m_statusAction = nullptr;
     QAction* m_fullScreenAction = nullptr;
