@@ -13,7 +13,7 @@
 
 namespace {
 
-/// Memory for a cell, its text and its number (measured).
+/// Memory for a cell, its text and its number: 45 measured with short texts.
 constexpr double bytesPerCell = 60.0;
 
 /// Part of a step by which a line of an even grid may be off: numbers as they are shown are rounded.

@@ -209,7 +209,8 @@ void DataActions::setHeld(bool held)
 {
     m_held = held;
     m_slice->setHeld(held);
-    mark();
+    if (held)
+        mark();
 }
 
 /// On a point: it is held, or let go when it is held already. Beside the data: whatever is held is let go.
@@ -225,14 +226,13 @@ void DataActions::clicked()
 
 bool DataActions::eventFilter(QObject* watched, QEvent* event)
 {
-    const auto* mouse = static_cast<QMouseEvent*>(event);
-    const bool left =
-        (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonRelease) &&
-        mouse->button() == Qt::LeftButton;
-    if (left && m_page && watched == &m_page->plot()) {
-        if (event->type() == QEvent::MouseButtonPress)
+    const bool press = event->type() == QEvent::MouseButtonPress;
+    if ((press || event->type() == QEvent::MouseButtonRelease) && m_page && watched == &m_page->plot()) {
+        const auto* mouse = static_cast<QMouseEvent*>(event);
+        if (press)
             m_press = mouse->pos();
-        else if ((mouse->pos() - m_press).manhattanLength() < QApplication::startDragDistance())
+        else if (mouse->button() == Qt::LeftButton &&
+                 (mouse->pos() - m_press).manhattanLength() < QApplication::startDragDistance())
             clicked();
     }
     return QObject::eventFilter(watched, event);

@@ -6,17 +6,23 @@
 #include "valuetablemodel.h"
 #include "valuetableview.h"
 
+#include <QEvent>
 #include <QFormLayout>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QScrollArea>
 #include <QSplitter>
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int bars = 64;
-constexpr QSize usualSize(300, 520);
+constexpr double manyCells = 2e6; ///< a summary takes noticeable time
+constexpr double mostFacts = 0.6; ///< of the height
+constexpr QSize usualSize(330, 520);
 constexpr QSize leastSize(180, 120);
 
 } // namespace
@@ -25,14 +31,14 @@ DataInspector::DataInspector(QWidget* parent) : QWidget(parent), m_summary(new Q
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    auto* split = new QSplitter(Qt::Vertical);
-    split->setChildrenCollapsible(false);
-    split->addWidget(makeFacts());
+    m_split = new QSplitter(Qt::Vertical);
+    m_split->setChildrenCollapsible(false);
+    m_split->addWidget(makeFacts());
     makeTable();
-    split->addWidget(m_table);
-    split->setStretchFactor(0, 0);
-    split->setStretchFactor(1, 1);
-    layout->addWidget(split);
+    m_split->addWidget(m_table);
+    m_split->setStretchFactor(1, 1);
+    layout->addWidget(m_split);
+    connect(m_split, &QSplitter::splitterMoved, this, [this] { m_divided = true; });
     m_summary->setSingleShot(true);
     connect(m_summary, &QTimer::timeout, this, &DataInspector::summarize);
 }
@@ -70,6 +76,7 @@ QWidget* DataInspector::makeFacts()
     layout->addWidget(m_nothing);
     layout->addStretch(1);
     scroll->setWidget(content);
+    content->installEventFilter(this);
     return scroll;
 }
 
@@ -117,6 +124,30 @@ void DataInspector::showEvent(QShowEvent* event)
         m_summary->start(0);
 }
 
+void DataInspector::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    divide();
+}
+
+bool DataInspector::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::LayoutRequest)
+        QTimer::singleShot(0, this, &DataInspector::divide);
+    return QWidget::eventFilter(watched, event);
+}
+
+void DataInspector::divide()
+{
+    if (m_divided || !m_values)
+        return;
+    QWidget* content = m_facts->parentWidget();
+    const int wanted = content->hasHeightForWidth() ? content->heightForWidth(content->width())
+                                                    : content->sizeHint().height();
+    const int facts = std::min(wanted + 2, int(mostFacts * m_split->height()));
+    m_split->setSizes({facts, m_split->height() - facts});
+}
+
 void DataInspector::showPlace(const ValuePlace& place)
 {
     const QModelIndex index = m_model->index(place.row, place.column);
@@ -143,7 +174,11 @@ void DataInspector::setFact(int line, const QString& name, const QString& text, 
         value->setTextInteractionFlags(Qt::TextSelectableByMouse);
         value->setWordWrap(true);
         value->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-        m_lines->addRow(new QLabel, value);
+        auto* label = new QLabel;
+        label->setTextFormat(Qt::PlainText);
+        label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+        value->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+        m_lines->addRow(label, value);
     }
     const auto label = [&](QFormLayout::ItemRole role) {
         return qobject_cast<QLabel*>(m_lines->itemAt(line, role)->widget());
@@ -158,8 +193,13 @@ void DataInspector::summarize()
 {
     if (!m_values)
         return;
+    const bool slow = double(m_values->columns()) * m_values->rows() > manyCells;
+    if (slow)
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     const ValueStatistics statistics(
         [this](const ValueStatistics::Visit& take) { m_values->visitHeights(take); });
+    if (slow)
+        QGuiApplication::restoreOverrideCursor();
     setFact(0, tr("Source"), m_source, m_sourceTip);
     const QVector<DataSummary::Line> lines = DataSummary::lines(*m_values, statistics, locale());
     for (int i = 0; i < lines.size(); ++i)

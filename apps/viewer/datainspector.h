@@ -7,6 +7,7 @@
 class HistogramView;
 class QFormLayout;
 class QLabel;
+class QSplitter;
 class QTimer;
 class ValueTableModel;
 class ValueTableView;
@@ -37,10 +38,15 @@ signals:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    /// Watches the facts, whose height is known after they were laid out.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     QWidget* makeFacts();
     void makeTable();
+    /// The facts as high as they are, as far as the table keeps its part; until the person divides anew.
+    void divide();
     /// When it is seen, and not in the middle of what changes the plot.
     void summarize();
     void setFact(int line, const QString& name, const QString& text, const QString& tip = QString());
@@ -56,5 +62,7 @@ private:
     ValueTableModel* m_model = nullptr;
     ValueTableView* m_table = nullptr;
     QTimer* m_summary = nullptr;
+    QSplitter* m_split = nullptr;
     bool m_following = false;
+    bool m_divided = false;
 };

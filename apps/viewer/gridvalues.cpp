@@ -97,3 +97,14 @@ QVector3D GridValues::drawn(int column, int row) const
 {
     return m_grid.valueAt(unsigned(column), unsigned(row));
 }
+
+void GridValues::visitHeights(const std::function<void(double)>& take) const
+{
+    // Many nodes are read several times: without holes only what select() reports.
+    if (!m_grid.hasSelectValues() || m_grid.hasMissing())
+        return PlotValues::visitHeights(take);
+    for (unsigned int column = 0; column < m_grid.columns(); ++column) {
+        for (unsigned int row = 0; row < m_grid.rows(); ++row)
+            take(m_grid.selectVectorAt(column, row)[2]);
+    }
+}

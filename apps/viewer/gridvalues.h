@@ -23,6 +23,7 @@ public:
     std::optional<ValuePlace> find(const Zel3D::SelectedObjectsInfo& picked) const override;
     bool isSingle() const override;
     QVector3D drawn(int column, int row) const override;
+    void visitHeights(const std::function<void(double)>& take) const override;
 
 private:
     double component(int column, int row, int direction) const;

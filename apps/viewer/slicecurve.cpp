@@ -13,8 +13,10 @@ constexpr QSize leastSize(110, 70);
 constexpr int gap = 4;
 constexpr double margin = 0.06;
 constexpr double ringRadius = 4.0;
-constexpr int acrossRoom = 70;  ///< pixels for a number
-constexpr int upwardsRoom = 30; ///< pixels between two numbers
+constexpr double dotSize = 4.0;
+constexpr std::size_t dotted = 40; ///< so few points are all seen
+constexpr int acrossRoom = 70;     ///< pixels for a number
+constexpr int upwardsRoom = 30;    ///< pixels between two numbers
 
 QString numberText(const QLocale& locale, double number, int digits)
 {
@@ -48,9 +50,7 @@ public:
     void finish()
     {
         flush();
-        if (m_points.size() == 1)
-            m_painter.drawPoint(m_points.first());
-        else if (!m_points.isEmpty())
+        if (!m_points.isEmpty())
             m_painter.drawPolyline(m_points.constData(), m_points.size());
         m_points.clear();
     }
@@ -175,14 +175,26 @@ void SliceCurve::drawCurve(QPainter& painter, const QRectF& area, const SliceRul
     pen.setCapStyle(Qt::RoundCap);
     painter.setPen(pen);
     Polyline curve(painter);
-    for (std::size_t i = 0; i < m_slice->at.size(); ++i) {
-        const QPointF point = place(i);
-        if (std::isfinite(point.x()) && std::isfinite(point.y()))
-            curve.add(point);
-        else
+    QVector<QPointF> dots;
+    const std::size_t count = m_slice->at.size();
+    const auto isDrawn = [&](std::size_t i) {
+        return i < count && std::isfinite(across.part(m_slice->at[i])) &&
+               std::isfinite(upwards.part(m_slice->value[i]));
+    };
+    for (std::size_t i = 0; i < count; ++i) {
+        if (!isDrawn(i)) {
             curve.finish();
+            continue;
+        }
+        curve.add(place(i));
+        // A point between gaps would be no line.
+        if (count <= dotted || (!isDrawn(i + 1) && (i == 0 || !isDrawn(i - 1))))
+            dots.append(place(i));
     }
     curve.finish();
+    pen.setWidthF(dotSize);
+    painter.setPen(pen);
+    painter.drawPoints(dots.constData(), dots.size());
     if (m_slice->picked < 0)
         return;
     const QPointF picked = place(std::size_t(m_slice->picked));

@@ -24,6 +24,7 @@ constexpr char shownKey[] = "slice/shown";
 constexpr char folderKey[] = "slice/folder";
 constexpr QSize usualSize(640, 200);
 constexpr QSize leastSize(200, 110);
+constexpr int narrowLetters = 70;
 
 const QColor rowColor(31, 119, 180);
 const QColor columnColor(214, 96, 20);
@@ -43,13 +44,25 @@ SlicePanel::SlicePanel(QWidget* parent)
     m_hint->setAlignment(Qt::AlignCenter);
     m_hint->setObjectName("hint");
     m_stack->addWidget(m_hint);
-    auto* curves = new QWidget;
-    m_curves = new QBoxLayout(QBoxLayout::LeftToRight, curves);
-    m_curves->setContentsMargins(0, 0, 0, 0);
+    auto* shown = new QWidget;
+    auto* column = new QVBoxLayout(shown);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(2);
+    m_where = new QLabel;
+    m_where->setTextFormat(Qt::PlainText);
+    m_where->setObjectName("where");
+    m_where->setIndent(4);
+    // As long as it is, the text must not keep the dock wide.
+    m_where->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    column->addWidget(m_where);
+    m_curves = new QBoxLayout(QBoxLayout::LeftToRight);
+    m_curves->setSpacing(4);
+    column->addLayout(m_curves, 1);
     m_curves->addWidget(m_row = new SliceCurve);
     m_curves->addWidget(m_column = new SliceCurve);
-    m_stack->addWidget(curves);
+    m_stack->addWidget(shown);
     layout->addWidget(m_stack, 1);
+    nameButtons();
     setValues(nullptr);
 }
 
@@ -87,16 +100,12 @@ QBoxLayout* SlicePanel::makeHead()
     connect(m_hold, &QToolButton::clicked, this, &SlicePanel::heldChanged);
     head->addSpacing(6);
     head->addWidget(m_hold);
-    head->addSpacing(6);
-    m_where = new QLabel;
-    m_where->setTextFormat(Qt::PlainText);
-    m_where->setObjectName("where");
-    // As long as it is, the text must not keep the dock wide.
-    m_where->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    head->addWidget(m_where, 1);
-    m_copy = new QPushButton(tr("Copy as CSV"));
+    head->addStretch(1);
+    m_copy = new QPushButton;
+    m_copy->setToolTip(tr("Copy the curves as CSV"));
     connect(m_copy, &QPushButton::clicked, this, &SlicePanel::copy);
-    m_save = new QPushButton(tr("Save CSV..."));
+    m_save = new QPushButton;
+    m_save->setToolTip(tr("Save the curves as a CSV file"));
     connect(m_save, &QPushButton::clicked, this, &SlicePanel::chooseFile);
     head->addWidget(m_copy);
     head->addWidget(m_save);
@@ -125,6 +134,7 @@ void SlicePanel::setValues(const PlotValues* values)
     m_slices.clear();
     nameChoices();
     m_stack->setCurrentWidget(m_hint);
+    m_where->setToolTip(QString());
     m_where->clear();
     updateButtons();
 }
@@ -193,8 +203,8 @@ void SlicePanel::draw()
     const QString where = part(Zel3D::XAxis, m_values->x(m_place.column, m_place.row)) + "   " +
                           part(Zel3D::YAxis, m_values->y(m_place.column, m_place.row)) + "   " +
                           part(Zel3D::ZAxis, m_values->value(m_place.column, m_place.row));
-    m_where->setText(where);
     m_where->setToolTip(where);
+    showWhere();
     m_stack->setCurrentIndex(1);
     updateButtons();
 }
@@ -202,7 +212,24 @@ void SlicePanel::draw()
 void SlicePanel::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    m_curves->setDirection(width() > 2 * height() ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    m_curves->setDirection(2 * width() > 3 * height() ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    nameButtons();
+    showWhere();
+}
+
+void SlicePanel::showWhere()
+{
+    const int room = width() - layout()->contentsMargins().left() - layout()->contentsMargins().right();
+    m_where->setText(
+        fontMetrics().elidedText(m_where->toolTip(), Qt::ElideRight, room - 2 * m_where->indent()));
+}
+
+/// Where the dock is narrow their tool tips say the rest.
+void SlicePanel::nameButtons()
+{
+    const bool narrow = width() < fontMetrics().averageCharWidth() * narrowLetters;
+    m_copy->setText(narrow ? tr("Copy") : tr("Copy as CSV"));
+    m_save->setText(narrow ? tr("Save...") : tr("Save CSV..."));
 }
 
 void SlicePanel::showEvent(QShowEvent* event)

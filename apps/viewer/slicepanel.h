@@ -56,6 +56,8 @@ private:
     void choose(int shown);
     void draw();
     void nameChoices();
+    void nameButtons();
+    void showWhere();
     void updateButtons();
 
     const PlotValues* m_values = nullptr;

@@ -43,7 +43,7 @@ double SliceRuler::step(int most) const
 {
     const double wanted = (m_upper - m_lower) / std::max(most, 1);
     const double power = std::pow(10.0, std::floor(std::log10(wanted)));
-    for (const double factor : {1.0, 2.0, 5.0}) {
+    for (const double factor : {1.0, 2.0, 2.5, 5.0}) {
         if (factor * power >= wanted)
             return factor * power;
     }

@@ -17,6 +17,7 @@ namespace {
 constexpr int mostPreviewed = 8;
 constexpr int cellWidth = 74;
 constexpr int previewHeight = 170;
+constexpr int usualWidth = 460;
 
 } // namespace
 
@@ -35,6 +36,7 @@ TableDialog::TableDialog(const ClipboardTable& table, QWidget* parent) : QDialog
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(buttons);
+    setMinimumWidth(usualWidth);
     colorPreview();
 }
 

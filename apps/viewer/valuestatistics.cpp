@@ -13,8 +13,7 @@ ValueStatistics::ValueStatistics(const Source& source)
         if (!std::isnan(number))
             ++m_bars[std::size_t(barOf(number))];
     });
-    const double upper = ranked(source, m_count / 2);
-    m_median = m_count % 2 == 1 ? upper : 0.5 * (ranked(source, m_count / 2 - 1) + upper);
+    m_median = middle(source);
 }
 
 /// Mean and deviation in one pass: Welford, "Note on a method for calculating corrected sums of squares and
@@ -47,24 +46,33 @@ int ValueStatistics::barOf(double number) const
     return range > 0.0 ? std::min(int((number - m_minimum) / range * fineBars), fineBars - 1) : 0;
 }
 
-/// The number at a place, from 0, of the sorted ones.
-double ValueStatistics::ranked(const Source& source, std::size_t rank) const
+/// The median: the number in the middle of the sorted ones, or the mean of the two there.
+double ValueStatistics::middle(const Source& source) const
 {
+    if (m_maximum == m_minimum)
+        return m_minimum;
+    const std::size_t rank = m_count / 2;
     std::size_t below = 0;
     int bar = 0;
     while (below + m_bars[std::size_t(bar)] <= rank)
         below += m_bars[std::size_t(bar++)];
-    if (m_maximum == m_minimum)
-        return m_minimum;
     std::vector<double> near;
     near.reserve(m_bars[std::size_t(bar)]);
+    double before = m_minimum; // the largest of the bars below
     source([&](double number) {
-        if (!std::isnan(number) && barOf(number) == bar)
+        if (std::isnan(number))
+            return;
+        const int place = barOf(number);
+        if (place == bar)
             near.push_back(number);
+        else if (place < bar)
+            before = std::max(before, number);
     });
-    const auto place = near.begin() + std::ptrdiff_t(rank - below);
-    std::nth_element(near.begin(), place, near.end());
-    return *place;
+    const auto middle = near.begin() + std::ptrdiff_t(rank - below);
+    std::nth_element(near.begin(), middle, near.end());
+    if (m_count % 2 == 1)
+        return *middle;
+    return 0.5 * (*middle + (middle == near.begin() ? before : *std::max_element(near.begin(), middle)));
 }
 
 std::vector<std::size_t> ValueStatistics::histogram(int bars) const

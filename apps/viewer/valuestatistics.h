@@ -33,7 +33,7 @@ public:
 private:
     int barOf(double number) const;
     void measure(const Source& source);
-    double ranked(const Source& source, std::size_t rank) const;
+    double middle(const Source& source) const;
 
     std::size_t m_count = 0;
     std::size_t m_missing = 0;

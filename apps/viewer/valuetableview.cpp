@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int usualWidth = 74;
+constexpr int columnPadding = 12;
 constexpr int rowPadding = 5;
 constexpr qint64 mostCopied = 4000000;
 
@@ -32,7 +32,7 @@ ValueTableView::ValueTableView(QWidget* parent) : QTableView(parent)
     setEditTriggers(NoEditTriggers);
     setSelectionMode(ContiguousSelection);
     setHorizontalScrollMode(ScrollPerPixel);
-    horizontalHeader()->setDefaultSectionSize(usualWidth);
+    horizontalHeader()->setDefaultSectionSize(fontMetrics().horizontalAdvance("-0.0123456") + columnPadding);
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + rowPadding);
     horizontalHeader()->setHighlightSections(true);
     setToolTip(tr("The plot shows the point of the chosen cell."));

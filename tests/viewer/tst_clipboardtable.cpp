@@ -250,8 +250,8 @@ void TestClipboardTable::aMillionCellsAreQuick()
     QVERIFY(table.makeGrid(TableMeaning::Heights, made));
     const qint64 needed = clock.elapsed();
     QCOMPARE(made.grid.z()[999][3], 2997 % 977 + 0.25);
-    // Measured: a third of a second. Ten times as much is a fault.
-    QVERIFY2(needed < 3000, qPrintable(QString::number(needed)));
+    // Measured: 0.4 s. Much more is a fault.
+    QVERIFY2(needed < 4000, qPrintable(QString::number(needed)));
 }
 
 int main(int argc, char* argv[])
