@@ -146,6 +146,8 @@ void DataInspector::divide()
                                                     : content->sizeHint().height();
     const int facts = std::min(wanted + 2, int(mostFacts * m_split->height()));
     m_split->setSizes({facts, m_split->height() - facts});
+    if (m_table->currentIndex().isValid())
+        m_table->scrollTo(m_table->currentIndex());
 }
 
 void DataInspector::showPlace(const ValuePlace& place)

@@ -73,8 +73,10 @@ QVector<double> SliceRuler::ticks(int most) const
 
 int SliceRuler::digits(int most) const
 {
+    // Up to a million without an exponent.
+    constexpr int usual = 6;
     if (m_logarithmic)
-        return 3;
+        return usual;
     const double size = std::max(std::abs(m_lower), std::abs(m_upper));
-    return std::clamp(int(std::ceil(std::log10(size / step(most)))) + 1, 4, 15);
+    return std::clamp(int(std::ceil(std::log10(size / step(most)))) + 1, usual, 15);
 }
