@@ -11,6 +11,7 @@
 #include "scene/legend.h"
 #include "slicedata.h"
 #include "slicepanel.h"
+#include "sliceruler.h"
 #include "tabledialog.h"
 #include "tablesource.h"
 #include "toroidsource.h"
@@ -61,6 +62,9 @@ private slots:
     void summaryOfEveryKind_data();
     void summaryOfEveryKind();
     void slicesAsCsv();
+    void slicesAreSavedWhole();
+    void rulerHasRoundNumbers_data();
+    void rulerHasRoundNumbers();
     void spectrumIsSliced();
     void logarithmicValuesArePlain();
     void largeTableIsCheap();
@@ -225,6 +229,55 @@ void TestViewerValues::slicesAsCsv()
     const PlotValues& named = values();
     QVERIFY(SliceData::csv(named, {SliceData::row(named, {0, 0})})
                 .startsWith("\"x, left\",\"z \"\"up\"\" at y = 0\"\n0,1\n1,2\n"));
+}
+
+void TestViewerValues::slicesAreSavedWhole()
+{
+    paste(small);
+    action("Slice")->trigger();
+    pick(20.0, 4.0, 10.0);
+    const auto* panel = child<SlicePanel>();
+    QTemporaryDir folder;
+    QString error;
+    QVERIFY2(panel->save(folder.filePath("slice.csv"), error), qPrintable(error));
+    QFile file(folder.filePath("slice.csv"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), panel->csv());
+    QVERIFY(!panel->save(folder.filePath("missing/slice.csv"), error));
+    QVERIFY2(error.contains("missing/slice.csv") && error.endsWith('.'), qPrintable(error));
+}
+
+void TestViewerValues::rulerHasRoundNumbers_data()
+{
+    QTest::addColumn<QVector<double>>("numbers");
+    QTest::addColumn<bool>("logarithmic");
+    QTest::addColumn<QVector<double>>("ticks");
+    QTest::newRow("thirds") << QVector<double>{0, 0.9} << false << QVector<double>{0, 0.25, 0.5, 0.75};
+    QTest::newRow("across zero, some missing")
+        << QVector<double>{NAN, -30, 25} << false << QVector<double>{-20, 0, 20};
+    QTest::newRow("one number") << QVector<double>{200} << false << QVector<double>{190, 195, 200, 205, 210};
+    QTest::newRow("none") << QVector<double>{NAN} << false << QVector<double>{0, 0.25, 0.5, 0.75, 1};
+    QTest::newRow("decades") << QVector<double>{1, 1e4, -5} << true << QVector<double>{1, 10, 100, 1e3, 1e4};
+    QTest::newRow("many decades") << QVector<double>{1, 1e12} << true << QVector<double>{1, 1e5, 1e10};
+    QTest::newRow("less than two decades")
+        << QVector<double>{3, 60} << true << QVector<double>{5, 10, 20, 50};
+}
+
+void TestViewerValues::rulerHasRoundNumbers()
+{
+    QFETCH(QVector<double>, numbers);
+    QFETCH(bool, logarithmic);
+    QFETCH(QVector<double>, ticks);
+    const SliceRuler ruler(std::vector<double>(numbers.begin(), numbers.end()), logarithmic, 0.0);
+    const QVector<double> found = ruler.ticks(4);
+    QStringList texts;
+    for (const double tick : found)
+        texts.append(QString::number(tick));
+    QVERIFY2(found.size() == ticks.size(), qPrintable(texts.join(' ')));
+    for (int i = 0; i < ticks.size(); ++i) {
+        QVERIFY2(std::abs(found[i] - ticks[i]) <= 1e-9 * std::abs(ticks[i]), qPrintable(texts.join(' ')));
+        QVERIFY(ruler.part(found[i]) >= -1e-9 && ruler.part(found[i]) <= 1.0 + 1e-9);
+    }
 }
 
 void TestViewerValues::spectrumIsSliced()
