@@ -73,7 +73,7 @@ bool CsvReader::feedLine(const char* bytes, std::size_t size)
         return fail(tr("line %1, character %2: found a zero byte, expected text")
                         .arg(m_line)
                         .arg(static_cast<const char*>(found) - bytes + 1));
-    if (m_lineStart && !m_inRecord && bytes[0] == '#') {
+    if (m_commentsAllowed && m_lineStart && !m_inRecord && bytes[0] == '#') {
         m_inComment = true;
         ++m_comments;
     }

@@ -33,6 +33,9 @@ public:
     CsvReader(const CsvReader&) = delete;
     CsvReader& operator=(const CsvReader&) = delete;
 
+    /// Whether lines that begin with # are comments, as they are at first, or rows like all others.
+    void setCommentsAllowed(bool allowed) { m_commentsAllowed = allowed; }
+
     /// Reads the next bytes of the file. False when the handler ends the reading or the text cannot be read;
     /// error() then says where and why, and is empty in the first case.
     bool feed(const char* bytes, std::size_t size);
@@ -64,4 +67,5 @@ private:
     bool m_lineStart = true;
     bool m_inComment = false;
     bool m_afterReturn = false;
+    bool m_commentsAllowed = true;
 };

@@ -1,5 +1,7 @@
 #include "spectratable.h"
 
+#include "tablecell.h"
+
 #include <algorithm>
 #include <cfloat>
 #include <cmath>
@@ -7,47 +9,11 @@
 
 namespace {
 
-/// The text of a cell; what is no UTF-8 is the West European encoding of older programs.
-QString decoded(const std::string& cell)
-{
-    const QString text = QString::fromStdString(cell);
-    return (text.contains(QChar::ReplacementCharacter) ? QString::fromLatin1(cell.data(), int(cell.size()))
-                                                       : text)
-        .trimmed();
-}
-
-/// A cell as a message quotes it.
-QString quoted(const std::string& cell)
-{
-    constexpr int longest = 30;
-    const QString text = decoded(cell).simplified();
-    return '"' + (text.size() > longest ? text.left(longest) + QStringLiteral("...") : text) + '"';
-}
-
-/// The name of a column, from 0, in a spreadsheet: A, B, ... Z, AA.
-QString letters(int column)
-{
-    QString name;
-    for (int rest = column; rest >= 0; rest = rest / 26 - 1)
-        name.prepend(QChar('A' + rest % 26));
-    return name;
-}
-
-QString columnText(int column)
-{
-    return QStringLiteral("%1 (%2)").arg(column + 1).arg(letters(column));
-}
-
-bool isBlank(const std::string& cell)
-{
-    return cell.find_first_not_of(" \t") == std::string::npos;
-}
-
 /// The number of cells without the empty ones at the end.
 int filledWidth(const CsvRecord& record)
 {
-    const auto last =
-        std::find_if(record.cells.rbegin(), record.cells.rend(), [](const auto& c) { return !isBlank(c); });
+    const auto last = std::find_if(record.cells.rbegin(), record.cells.rend(),
+                                   [](const auto& c) { return !isBlankCell(c); });
     return static_cast<int>(record.cells.rend() - last);
 }
 
@@ -86,11 +52,11 @@ bool SpectraTable::cell(const CsvRecord& record, int column, bool missingAllowed
     if (kind == CsvNumber::WrongSign) {
         const QString sign = m_numbers.sign() == '.' ? tr("point") : tr("comma");
         if (m_numbers.signLine() == 0)
-            return fail(record, column, quoted(text), tr("a number with a decimal %1").arg(sign));
-        return fail(record, column, quoted(text),
+            return fail(record, column, quotedCell(text), tr("a number with a decimal %1").arg(sign));
+        return fail(record, column, quotedCell(text),
                     tr("a number with a decimal %1 as in line %2").arg(sign).arg(m_numbers.signLine()));
     }
-    return fail(record, column, isBlank(text) ? tr("an empty cell") : quoted(text), tr("a number"));
+    return fail(record, column, isBlankCell(text) ? tr("an empty cell") : quotedCell(text), tr("a number"));
 }
 
 bool SpectraTable::position(const CsvRecord& record, int column, double& found)
@@ -100,7 +66,7 @@ bool SpectraTable::position(const CsvRecord& record, int column, double& found)
     // The plot's box is in single precision.
     if (std::abs(found) <= double(FLT_MAX))
         return true;
-    return fail(record, column, quoted(record.cells[static_cast<std::size_t>(column)]),
+    return fail(record, column, quotedCell(record.cells[static_cast<std::size_t>(column)]),
                 tr("a position that single precision holds"));
 }
 
@@ -173,7 +139,7 @@ void SpectraTable::startPairs(const QStringList& header)
 bool SpectraTable::takePositions(const CsvRecord& record)
 {
     m_form = Rows;
-    m_header.append(decoded(record.cells.front()));
+    m_header.append(cellText(record.cells.front()));
     std::map<double, int> places;
     for (int column = 1; column < m_width; ++column) {
         double found = 0.0;
@@ -203,7 +169,7 @@ bool SpectraTable::takePairNames(const CsvRecord& record)
                         .arg(m_width));
     QStringList header;
     for (int column = 0; column < m_width; ++column)
-        header.append(decoded(record.cells[static_cast<std::size_t>(column)]));
+        header.append(cellText(record.cells[static_cast<std::size_t>(column)]));
     startPairs(header);
     return true;
 }
@@ -212,7 +178,7 @@ bool SpectraTable::checkWidth(const CsvRecord& record)
 {
     const int filled = filledWidth(record);
     if (filled > m_width)
-        return fail(record, filled - 1, quoted(record.cells[static_cast<std::size_t>(filled - 1)]),
+        return fail(record, filled - 1, quotedCell(record.cells[static_cast<std::size_t>(filled - 1)]),
                     tr("%1 columns as in the first row").arg(m_width));
     const int cells = static_cast<int>(record.cells.size());
     if (cells < m_width)
@@ -225,13 +191,13 @@ bool SpectraTable::takeRow(const CsvRecord& record)
 {
     Spectrum spectrum;
     spectrum.line = record.line;
-    spectrum.name = decoded(record.cells.front());
+    spectrum.name = cellText(record.cells.front());
     const CsvNumber::Kind kind = m_labels.read(record.cells.front(), record.line, spectrum.position);
     if (kind == CsvNumber::Number && std::abs(spectrum.position) <= double(FLT_MAX))
         ++m_numberedRows;
     else if (m_wordedRow.isEmpty())
         m_wordedRow =
-            tr("line %1 begins with %2").arg(QString::number(record.line), quoted(record.cells.front()));
+            tr("line %1 begins with %2").arg(QString::number(record.line), quotedCell(record.cells.front()));
     for (int column = 1; column < m_width; ++column) {
         double found = 0.0;
         if (!value(record, column, found))
@@ -257,7 +223,7 @@ bool SpectraTable::takePair(const CsvRecord& record, int pair)
     const int column = 2 * pair;
     const auto at = static_cast<std::size_t>(column);
     // The shorter of several spectra.
-    if (isBlank(record.cells[at]) && isBlank(record.cells[at + 1]))
+    if (isBlankCell(record.cells[at]) && isBlankCell(record.cells[at + 1]))
         return true;
     Spectrum& spectrum = m_spectra[static_cast<std::size_t>(pair)];
     double x = 0.0;

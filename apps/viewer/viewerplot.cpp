@@ -1,11 +1,13 @@
 #include "viewerplot.h"
 
+#include "core/columnarray.h"
 #include "core/gridmapping.h"
 #include "grid.h"
 #include "mesh.h"
 #include "plotstyles.h"
 #include "scene/legend.h"
 #include "startview.h"
+#include "tablegrid.h"
 #include "thinning.h"
 #include "view/light.h"
 
@@ -76,8 +78,38 @@ bool ViewerPlot::load(Grid& grid)
     if (!loadFromData(grid.z(), static_cast<unsigned int>(grid.columns), static_cast<unsigned int>(grid.rows),
                       grid.xMin, grid.xMax, grid.yMin, grid.yMax))
         return false;
+    nameAxes(grid);
+    resetView();
+    return true;
+}
+
+void ViewerPlot::nameAxes(const Grid& grid)
+{
     const QString height = grid.name.isEmpty() ? tr("z") : grid.name;
     nameAxes({grid.xName, grid.yName, grid.unit.isEmpty() ? height : tr("%1 (%2)").arg(height, grid.unit)});
+}
+
+bool ViewerPlot::load(TableGrid& table)
+{
+    Grid& grid = table.grid;
+    if (table.even)
+        return load(grid);
+    m_columns = grid.columns;
+    m_rows = grid.rows;
+    adaptResolution(plotStyle());
+    const auto columns = static_cast<unsigned int>(grid.columns);
+    const auto rows = static_cast<unsigned int>(grid.rows);
+    Zel3D::ColumnArray<QVector3D> points(columns, rows);
+    for (unsigned int column = 0; column < columns; ++column) {
+        for (unsigned int row = 0; row < rows; ++row)
+            points[column][row] =
+                QVector3D(float(table.x[column]), float(table.y[row]), float(grid.z()[column][row]));
+    }
+    // The spacing is the mean one: the width of bars.
+    if (!loadFromData(points.columns(), columns, rows, (grid.xMax - grid.xMin) / (columns - 1),
+                      (grid.yMax - grid.yMin) / (rows - 1)))
+        return false;
+    nameAxes(grid);
     resetView();
     return true;
 }

@@ -11,6 +11,7 @@ class GridMapping;
 }
 struct Grid;
 struct Mesh;
+struct TableGrid;
 
 /// The surface plot with the viewer's start view, light and density of lines and markers.
 class ViewerPlot : public ViewedPlot<Zel3D::SHPlot>
@@ -22,6 +23,8 @@ public:
     PlotKind kind() const override { return PlotKind::Surface; }
     /// Shows a grid from the start view; the plot keeps a copy. False when the plot does not take it.
     bool load(Grid& grid);
+    /// The same with heights over lines that may stand unevenly.
+    bool load(TableGrid& table);
     /// The same with a mesh, in equal units. Colours of its vertices go before those of the heights, until
     /// the person chooses another gradient.
     bool load(const Mesh& mesh);
@@ -35,6 +38,7 @@ public:
     void lightAsMap();
     /// As the base class does; the density of drawn nodes follows the style.
     bool setPlotStyle(int style) override;
+    using PlotView::nameAxes;
 
 protected:
     Zel3D::ValueXYZ<double> recalculateAutoScale() override;
@@ -43,6 +47,7 @@ protected:
 private:
     void lightFromNorthWest();
     void adaptResolution(int style);
+    void nameAxes(const Grid& grid);
 
     int m_columns = 0;
     int m_rows = 0;

@@ -1,5 +1,6 @@
 #include "viewerwindow.h"
 
+#include "dataactions.h"
 #include "filesource.h"
 #include "formuladialog.h"
 #include "formulasource.h"
@@ -41,12 +42,6 @@ constexpr char statusBarKey[] = "window/statusBar";
 QIcon icon(const char* name)
 {
     return QIcon(QStringLiteral(":/plot/images/%1.svg").arg(QLatin1String(name)));
-}
-
-QString droppedFile(const QMimeData& data)
-{
-    const QList<QUrl> urls = data.urls();
-    return urls.size() == 1 ? urls.first().toLocalFile() : QString();
 }
 
 /// What tells a source from others, over restarts of the program.
@@ -143,7 +138,8 @@ void ViewerWindow::createFileMenu()
     });
     connect(m_recentMenu, &RecentMenu::chosen, this, &ViewerWindow::openFile);
     menu->addSeparator();
-    m_pictures = new PictureActions(*this, *menu, *menuBar()->addMenu(tr("&Edit")));
+    m_editMenu = menuBar()->addMenu(tr("&Edit"));
+    m_pictures = new PictureActions(*this, *menu, *m_editMenu);
     menu->addSeparator();
     m_closeAction = menu->addAction(tr("&Close plot"), this, &ViewerWindow::closePlot,
                                     QKeySequence(Qt::CTRL + Qt::Key_W));
@@ -183,6 +179,10 @@ void ViewerWindow::createViewMenu()
     m_fullScreenAction->setIcon(icon("fullscreen"));
     connect(m_fullScreenAction, &QAction::triggered, this, &ViewerWindow::showFullScreen);
     m_viewMenu->addSeparator();
+    m_data = new DataActions(*this, *m_editMenu, *m_viewMenu,
+                             {[this](std::unique_ptr<PlotSource> source) { showPlot(std::move(source)); },
+                              [this](const QString& path) { openFile(path); }});
+    m_viewMenu->addSeparator();
     m_viewMenu->addAction(m_bindings->action());
 }
 
@@ -194,6 +194,7 @@ void ViewerWindow::showFullScreen(bool on)
 void ViewerWindow::removePage()
 {
     takeFromPage();
+    m_data->setPage(nullptr);
     m_host.reset();
     m_page.reset();
     m_plotMenu->menuAction()->setEnabled(false);
@@ -219,6 +220,7 @@ void ViewerWindow::placePage(std::unique_ptr<PlotPage> page)
     m_plotMenu->menuAction()->setEnabled(true);
     m_pictures->setPage(m_page.get());
     m_partAction->setPage(m_page.get());
+    m_data->setPage(m_page.get());
     m_closeAction->setEnabled(true);
     m_statusAction->setEnabled(true);
     setWindowTitle(tr("%1 - voranview").arg(m_page->source().name()));
@@ -307,17 +309,16 @@ void ViewerWindow::fitPlot(const QSize& size)
 
 void ViewerWindow::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (!droppedFile(*event->mimeData()).isEmpty())
+    if (DataActions::canTake(*event->mimeData()))
         event->acceptProposedAction();
 }
 
 void ViewerWindow::dropEvent(QDropEvent* event)
 {
-    const QString path = droppedFile(*event->mimeData());
-    if (path.isEmpty())
+    if (!DataActions::canTake(*event->mimeData()))
         return;
     event->acceptProposedAction();
-    openFile(path);
+    m_data->take(*event->mimeData());
 }
 
 // The window manager goes full screen and back, too.

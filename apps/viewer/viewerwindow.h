@@ -6,6 +6,7 @@
 
 #include <memory>
 
+class DataActions;
 class PartAction;
 class PictureActions;
 class PlotHost;
@@ -80,6 +81,8 @@ private:
     PictureActions* m_pictures = nullptr;
     PartAction* m_partAction = nullptr;
     ProgressBox* m_loading = nullptr;
+    DataActions* m_data = nullptr;
+    QMenu* m_editMenu = nullptr;
     QAction* m_closeAction = nullptr;
     QAction* m_statusAction = nullptr;
     QAction* m_fullScreenAction = nullptr;

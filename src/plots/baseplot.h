@@ -182,6 +182,9 @@ public:
     bool setAutomaticFaces(bool on);
     /// On: the picked point is marked in the scene. Off by default.
     bool setPickHighlight(bool on);
+    /// Marks a point in scene units as a pick does, if that is on, until the next pick; a point that is not
+    /// finite marks nothing. Repaints.
+    void highlightPoint(const QVector3D& point);
     /// On: the plain values of a direction become decimal exponents while data are loaded, and its scale
     /// logarithmic. Values at or below zero are then missing. Holds from the next load on. No signal of its
     /// own.
@@ -453,6 +456,7 @@ private:
     void rebuildWhatChanged();
     void compileSelection();
     void highlightPick(const SelectedObjectsInfo& info);
+    void showHighlight(const QVector3D& point, bool found);
     void warnWithoutGradient();
     void applyShading() const;
     void drawCoordinateSystem();

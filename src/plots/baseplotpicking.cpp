@@ -8,6 +8,8 @@
 #include "view/glmode.h"
 #include "view/glscopes.h"
 
+#include <cmath>
+
 namespace Zel3D {
 
 void BasePlot::updateSelection()
@@ -134,8 +136,18 @@ void BasePlot::highlightPick(const SelectedObjectsInfo& info)
 {
     QVector3D place;
     const bool found = info.valid && pickPass->position(getPickedName(), place);
+    showHighlight(found ? place : QVector3D(), found);
+}
+
+void BasePlot::highlightPoint(const QVector3D& point)
+{
+    showHighlight(point, std::isfinite(point.x()) && std::isfinite(point.y()) && std::isfinite(point.z()));
+}
+
+void BasePlot::showHighlight(const QVector3D& point, bool found)
+{
     // A turning view repaints anyway.
-    if ((found ? pickHighlight->show(place) : pickHighlight->hide()) && isInitialized() && !isAutoRotating())
+    if ((found ? pickHighlight->show(point) : pickHighlight->hide()) && isInitialized() && !isAutoRotating())
         update();
 }
 

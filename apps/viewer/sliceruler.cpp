@@ -1,0 +1,82 @@
+#include "sliceruler.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+SliceRuler::SliceRuler(const std::vector<double>& numbers, bool logarithmic, double margin)
+    : m_logarithmic(logarithmic),
+      m_lower(std::numeric_limits<double>::infinity()),
+      m_upper(-std::numeric_limits<double>::infinity())
+{
+    for (const double number : numbers) {
+        const double place = scaled(number);
+        if (std::isfinite(place)) {
+            m_lower = std::min(m_lower, place);
+            m_upper = std::max(m_upper, place);
+        }
+    }
+    if (m_lower > m_upper) {
+        m_lower = 0.0;
+        m_upper = 1.0;
+    }
+    double wider = margin * (m_upper - m_lower);
+    if (!(m_upper - m_lower > 1e-12 * std::max(std::abs(m_lower), std::abs(m_upper))))
+        wider = m_lower == 0.0 ? 0.5 : 0.05 * std::abs(m_lower);
+    m_lower -= wider;
+    m_upper += wider;
+}
+
+double SliceRuler::scaled(double number) const
+{
+    if (!m_logarithmic)
+        return number;
+    return number > 0.0 ? std::log10(number) : std::numeric_limits<double>::quiet_NaN();
+}
+
+double SliceRuler::part(double number) const
+{
+    return (scaled(number) - m_lower) / (m_upper - m_lower);
+}
+
+double SliceRuler::step(int most) const
+{
+    const double wanted = (m_upper - m_lower) / std::max(most, 1);
+    const double power = std::pow(10.0, std::floor(std::log10(wanted)));
+    for (const double factor : {1.0, 2.0, 2.5, 5.0}) {
+        if (factor * power >= wanted)
+            return factor * power;
+    }
+    return 10.0 * power;
+}
+
+QVector<double> SliceRuler::ticks(int most) const
+{
+    QVector<double> found;
+    const bool decades = m_logarithmic && m_upper - m_lower >= 2.0;
+    if (m_logarithmic && !decades) {
+        // Fewer than two decades: some numbers of each.
+        for (double decade = std::floor(m_lower); decade <= m_upper; ++decade) {
+            for (const double factor : {1.0, 2.0, 5.0}) {
+                const double number = factor * std::pow(10.0, decade);
+                if (scaled(number) >= m_lower && scaled(number) <= m_upper)
+                    found.append(number);
+            }
+        }
+        return found;
+    }
+    const double width = decades ? std::max(1.0, std::ceil(step(most))) : step(most);
+    for (double place = std::ceil(m_lower / width); place * width <= m_upper; ++place)
+        found.append(m_logarithmic ? std::pow(10.0, place * width) : place * width);
+    return found;
+}
+
+int SliceRuler::digits(int most) const
+{
+    // Up to a million without an exponent.
+    constexpr int usual = 6;
+    if (m_logarithmic)
+        return usual;
+    const double size = std::max(std::abs(m_lower), std::abs(m_upper));
+    return std::clamp(int(std::ceil(std::log10(size / step(most)))) + 1, usual, 15);
+}
