@@ -1,12 +1,15 @@
 #pragma once
 
 #include "core/types.h"
+#include "filekind.h"
 #include "formulaarea.h"
 #include "plotkind.h"
 #include "plots/look.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QMap>
+#include <QSet>
 #include <QSize>
 #include <QString>
 #include <QStringList>
@@ -39,18 +42,18 @@ public:
     /// The help, the version or the sentence that says what is wrong with the arguments.
     const QString& text() const { return m_text; }
 
-    /// The file, or empty.
-    const QString& file() const { return m_file; }
+    /// The files; one at most where there are pictures or a formula.
+    const QStringList& files() const { return m_files; }
     /// The band of a grid file, from 1.
     int band() const { return m_band; }
     /// The formula, or empty.
     const QString& formula() const { return m_formula; }
     /// Where the formula is evaluated.
     const FormulaArea& area() const { return m_area; }
-    /// The kind of plot that file or formula need; surfaces without either.
-    PlotKind kind() const;
-    /// The plot style of that kind, when one was asked for.
-    std::optional<int> style() const { return m_style; }
+    /// The kinds of plot that files or formula need; surfaces without either.
+    QSet<PlotKind> kinds() const;
+    /// The plot style of one of these kinds, when one was asked for.
+    std::optional<int> style(PlotKind kind) const;
     /// The look, when one was asked for.
     const std::optional<Zel3D::Look>& look() const { return m_look; }
     /// The template to apply, or empty.
@@ -84,6 +87,7 @@ private:
     bool takeAxes(const QString& value);
     bool takeLogarithmic(const QString& value);
     void addPictureOptions();
+    bool isAny(FileKind kind) const;
     bool takePictures();
     Outcome checkPictures();
     Outcome take();
@@ -91,7 +95,7 @@ private:
 
     QCommandLineParser m_parser;
     QString m_text;
-    QString m_file;
+    QStringList m_files;
     QString m_formula;
     FormulaArea m_area;
     QVector<WantedPicture> m_pictures;
@@ -100,7 +104,7 @@ private:
     std::array<QString, 3> m_axes;
     std::array<bool, 3> m_logarithmic{};
     QString m_template;
-    std::optional<int> m_style;
+    QMap<PlotKind, int> m_styles;
     std::optional<Zel3D::Look> m_look;
     std::optional<QSize> m_size;
     int m_band = 1;

@@ -13,6 +13,7 @@
 #include <QLoggingCategory>
 
 #include <cstdio>
+#include <vector>
 
 namespace {
 
@@ -32,21 +33,28 @@ void silenceDebugMessages()
         QLoggingCategory::setFilterRules("default.debug=false");
 }
 
-int refuse(const QString& sentence)
+void tell(const QString& sentence)
 {
     std::fprintf(stderr, "voranview: %s\n", qPrintable(sentence));
+}
+
+int refuse(const QString& sentence)
+{
+    tell(sentence);
     return EXIT_FAILURE;
 }
 
-std::unique_ptr<PlotSource> sourceOf(const CommandLine& wanted)
+/// What is to be shown: the formula or each of the files.
+std::vector<std::unique_ptr<PlotSource>> sourcesOf(const CommandLine& wanted)
 {
-    std::unique_ptr<PlotSource> source;
-    if (wanted.formula().isEmpty())
-        source = sourceOfFile(wanted.file(), wanted.band());
-    else
-        source = std::make_unique<FormulaSource>(wanted.formula(), wanted.area());
-    source->setLogarithmic(wanted.logarithmic());
-    return source;
+    std::vector<std::unique_ptr<PlotSource>> sources;
+    for (const QString& file : wanted.files())
+        sources.push_back(sourceOfFile(file, wanted.band()));
+    if (!wanted.formula().isEmpty())
+        sources.push_back(std::make_unique<FormulaSource>(wanted.formula(), wanted.area()));
+    for (const std::unique_ptr<PlotSource>& source : sources)
+        source->setLogarithmic(wanted.logarithmic());
+    return sources;
 }
 
 /// What was asked for beside look and style. False when the template cannot be used; \a error says why.
@@ -72,7 +80,7 @@ bool dress(PlotView& view, const CommandLine& wanted, QString& error)
 void tellNotes(const PlotSource& source)
 {
     for (const QString& note : source.notes())
-        std::fprintf(stderr, "voranview: %s\n", qPrintable(note));
+        tell(note);
 }
 
 int savePictures(Zel3D::BasePlot& plot, const CommandLine& wanted, const QSize& size)
@@ -86,14 +94,14 @@ int savePictures(Zel3D::BasePlot& plot, const CommandLine& wanted, const QSize& 
         if (!result.done)
             return refuse(result.message);
         if (!result.message.isEmpty())
-            std::fprintf(stderr, "voranview: %s\n", qPrintable(result.message));
+            tell(result.message);
     }
     return EXIT_SUCCESS;
 }
 
 int takePictures(const CommandLine& wanted)
 {
-    const std::unique_ptr<PlotSource> source = sourceOf(wanted);
+    const std::unique_ptr<PlotSource> source = std::move(sourcesOf(wanted).front());
     const std::unique_ptr<PlotView> view = source->open();
     if (!view)
         return refuse(source->error());
@@ -101,8 +109,8 @@ int takePictures(const CommandLine& wanted)
     const QSize size = wanted.size().value_or(usualPicture);
     Zel3D::BasePlot& plot = view->plot();
     plot.resize(size / plot.devicePixelRatioF());
-    if (wanted.style())
-        plot.setPlotStyle(*wanted.style());
+    if (const std::optional<int> style = wanted.style(view->kind()))
+        plot.setPlotStyle(*style);
     if (wanted.look())
         view->setLook(*wanted.look());
     view->resetView();
@@ -110,26 +118,42 @@ int takePictures(const CommandLine& wanted)
     return dress(*view, wanted, error) ? savePictures(plot, wanted, size) : refuse(error);
 }
 
+/// Shows a source in the window as it was asked for. False when that fails; \a error says why.
+bool show(ViewerWindow& window, std::unique_ptr<PlotSource> source, const CommandLine& wanted, QString& error)
+{
+    if (!window.present(std::move(source), error))
+        return false;
+    PlotView& view = window.page()->view();
+    tellNotes(window.page()->source());
+    // Over what was kept of the data.
+    if (wanted.look())
+        view.setLook(*wanted.look());
+    if (const std::optional<int> style = wanted.style(view.kind()))
+        view.plot().setPlotStyle(*style);
+    return dress(view, wanted, error);
+}
+
 int showWindow(const CommandLine& wanted)
 {
     ViewerWindow window;
     if (wanted.look())
         window.preferences().setLook(*wanted.look());
-    if (wanted.style())
-        window.preferences().setStyle(wanted.kind(), *wanted.style());
-    QString error;
-    if (!wanted.file().isEmpty() || !wanted.formula().isEmpty()) {
-        if (!window.present(sourceOf(wanted), error))
-            return refuse(error);
-        tellNotes(window.page()->source());
-        // Over what was kept of the data.
-        if (wanted.look())
-            window.page()->view().setLook(*wanted.look());
-        if (wanted.style())
-            window.page()->plot().setPlotStyle(*wanted.style());
+    for (const PlotKind kind : wanted.kinds()) {
+        if (const std::optional<int> style = wanted.style(kind))
+            window.preferences().setStyle(kind, *style);
     }
-    if (window.page() && !dress(window.page()->view(), wanted, error))
-        return refuse(error);
+    std::vector<std::unique_ptr<PlotSource>> sources = sourcesOf(wanted);
+    int failures = 0;
+    for (std::unique_ptr<PlotSource>& source : sources) {
+        QString error;
+        if (show(window, std::move(source), wanted, error))
+            continue;
+        ++failures;
+        tell(error);
+    }
+    // Some of several files are better than none.
+    if (failures > 0 && failures == int(sources.size()))
+        return EXIT_FAILURE;
     window.show();
     if (wanted.size())
         window.fitPlot(*wanted.size());

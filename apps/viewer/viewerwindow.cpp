@@ -7,9 +7,11 @@
 #include "plothost.h"
 #include "plotpage.h"
 #include "plots/baseplot.h"
+#include "plottabs.h"
 #include "recentfiles.h"
 #include "recentmenu.h"
 #include "startpage.h"
+#include "tabactions.h"
 #include "toroidsource.h"
 #include "viewerbindings.h"
 #include "watersource.h"
@@ -19,12 +21,12 @@
 #include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLayout>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QScreen>
 #include <QSettings>
-#include <QStackedWidget>
 #include <QStatusBar>
 
 namespace {
@@ -40,10 +42,14 @@ QIcon icon(const char* name)
     return QIcon(QStringLiteral(":/plot/images/%1.svg").arg(QLatin1String(name)));
 }
 
-QString droppedFile(const QMimeData& data)
+QStringList droppedFiles(const QMimeData& data)
 {
-    const QList<QUrl> urls = data.urls();
-    return urls.size() == 1 ? urls.first().toLocalFile() : QString();
+    QStringList files;
+    for (const QUrl& url : data.urls()) {
+        if (url.isLocalFile())
+            files.append(url.toLocalFile());
+    }
+    return files;
 }
 
 /// What tells a source from others, over restarts of the program.
@@ -52,6 +58,30 @@ QString subjectOf(const PlotSource& source)
     const QString file = source.filePath();
     return file.isEmpty() ? source.name() : QFileInfo(file).absoluteFilePath() + ' ' + source.name();
 }
+
+/// What was changed after the last save belongs to it: a look from the menu, the view.
+void keep(PlotPage& page)
+{
+    if (page.view().isKept())
+        page.plot().slotSaveSettings();
+}
+
+/// While it lives, bars come and go without moving what stands in the middle of the window.
+class LayoutPause
+{
+public:
+    explicit LayoutPause(QMainWindow& window) : m_window(window) { m_window.layout()->setEnabled(false); }
+    ~LayoutPause()
+    {
+        m_window.layout()->setEnabled(true);
+        m_window.layout()->activate();
+    }
+    LayoutPause(const LayoutPause&) = delete;
+    LayoutPause& operator=(const LayoutPause&) = delete;
+
+private:
+    QMainWindow& m_window;
+};
 
 /// The waiting cursor while the object lives.
 class WaitCursor
@@ -66,19 +96,19 @@ public:
 } // namespace
 
 ViewerWindow::ViewerWindow()
-    : m_preferences(PlotPreferences::stored()),
-      m_bindings(new ViewerBindings(this)),
-      m_stack(new QStackedWidget)
+    : m_preferences(PlotPreferences::stored()), m_bindings(new ViewerBindings(this)), m_history(m_link)
 {
-    setCentralWidget(m_stack);
     setWindowIcon(icon("voranview"));
     setAcceptDrops(true);
+    // Every step would paint the plots at another size.
+    setAnimated(false);
     createFileMenu();
+    createEditMenu();
     m_plotMenu = menuBar()->addMenu(tr("&Plot"));
+    createTabs();
     createViewMenu();
-    createStartPage();
     restore();
-    removePage();
+    showPage(nullptr);
 }
 
 ViewerWindow::~ViewerWindow()
@@ -87,13 +117,20 @@ ViewerWindow::~ViewerWindow()
     m_host.reset();
 }
 
-void ViewerWindow::createStartPage()
+void ViewerWindow::createTabs()
 {
     const QString folder = Examples::folder(QCoreApplication::applicationDirPath());
-    m_startPage = new StartPage(Examples::all(folder), m_openAction, m_newActions);
-    m_stack->addWidget(m_startPage);
-    connect(m_startPage, &StartPage::fileChosen, this, &ViewerWindow::openFile, Qt::QueuedConnection);
-    connect(m_recentMenu, &RecentMenu::cleared, m_startPage, &StartPage::refresh);
+    auto* startPage = new StartPage(Examples::all(folder), m_openAction, m_newActions);
+    connect(startPage, &StartPage::fileChosen, this, &ViewerWindow::openFile, Qt::QueuedConnection);
+    connect(m_recentMenu, &RecentMenu::cleared, startPage, &StartPage::refresh);
+    m_tabs = new PlotTabs(*startPage);
+    setCentralWidget(m_tabs);
+    connect(m_tabs, &PlotTabs::currentChanged, this, &ViewerWindow::showPage);
+    connect(m_tabs, &PlotTabs::closing, this, [this](PlotPage* page) { letGo(*page); });
+    m_tabActions = new TabActions(*m_tabs);
+    m_fileMenu->addSeparator();
+    m_tabActions->fillFileMenu(*m_fileMenu);
+    m_fileMenu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence(Qt::CTRL + Qt::Key_Q));
 }
 
 void ViewerWindow::restore()
@@ -112,13 +149,13 @@ void ViewerWindow::takeFromPage()
         return;
     m_preferences.takeFrom(m_page->view());
     m_barState = saveState();
-    // What was changed after the last save belongs to it: a look from the menu, the view.
-    if (m_page->view().isKept())
-        m_page->plot().slotSaveSettings();
+    keep(*m_page);
 }
 
 void ViewerWindow::remember()
 {
+    for (PlotPage* page : m_tabs->pages())
+        keep(*page);
     takeFromPage();
     m_preferences.store();
     QSettings settings;
@@ -129,19 +166,22 @@ void ViewerWindow::remember()
 
 void ViewerWindow::createFileMenu()
 {
-    QMenu* menu = menuBar()->addMenu(tr("&File"));
-    menu->addMenu(createNewMenu());
-    m_openAction =
-        menu->addAction(icon("open"), tr("&Open..."), this, &ViewerWindow::chooseFile, QKeySequence::Open);
+    m_fileMenu = menuBar()->addMenu(tr("&File"));
+    m_fileMenu->addMenu(createNewMenu());
+    m_openAction = m_fileMenu->addAction(icon("open"), tr("&Open..."), this, &ViewerWindow::chooseFile,
+                                         QKeySequence::Open);
     m_recentMenu = new RecentMenu(this);
-    menu->addMenu(m_recentMenu);
+    m_fileMenu->addMenu(m_recentMenu);
     connect(m_recentMenu, &RecentMenu::chosen, this, &ViewerWindow::openFile);
-    menu->addSeparator();
-    m_pictures = new PictureActions(*this, *menu, *menuBar()->addMenu(tr("&Edit")));
-    menu->addSeparator();
-    m_closeAction = menu->addAction(tr("&Close plot"), this, &ViewerWindow::closePlot,
-                                    QKeySequence(Qt::CTRL + Qt::Key_W));
-    menu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence(Qt::CTRL + Qt::Key_Q));
+    m_fileMenu->addSeparator();
+}
+
+void ViewerWindow::createEditMenu()
+{
+    m_editMenu = menuBar()->addMenu(tr("&Edit"));
+    m_editMenu->addActions({m_history.undoAction(), m_history.redoAction()});
+    m_editMenu->addSeparator();
+    m_pictures = new PictureActions(*this, *m_fileMenu, *m_editMenu);
 }
 
 QMenu* ViewerWindow::createNewMenu()
@@ -165,17 +205,22 @@ QMenu* ViewerWindow::createNewMenu()
 void ViewerWindow::createViewMenu()
 {
     m_viewMenu = menuBar()->addMenu(tr("&View"));
-    const auto addSwitch = [this](const QString& text) {
+    const auto addSwitch = [this](const QString& text, const QKeySequence& shortcut) {
         QAction* action = m_viewMenu->addAction(text);
         action->setCheckable(true);
+        action->setShortcut(shortcut);
         return action;
     };
-    m_statusAction = addSwitch(tr("&Status bar"));
+    m_statusAction = addSwitch(tr("&Status bar"), {});
     connect(m_statusAction, &QAction::triggered, this, [this](bool on) { statusBar()->setVisible(on); });
-    m_fullScreenAction = addSwitch(tr("F&ull screen"));
-    m_fullScreenAction->setShortcut(QKeySequence(Qt::Key_F11));
+    m_fullScreenAction = addSwitch(tr("F&ull screen"), Qt::Key_F11);
     m_fullScreenAction->setIcon(icon("fullscreen"));
     connect(m_fullScreenAction, &QAction::triggered, this, &ViewerWindow::showFullScreen);
+    m_viewMenu->addSeparator();
+    m_linkAction = addSwitch(tr("&Link views"), Qt::CTRL + Qt::SHIFT + Qt::Key_L);
+    m_linkAction->setStatusTip(tr("Turn, zoom and shift all plots together"));
+    connect(m_linkAction, &QAction::triggered, this, &ViewerWindow::linkViews);
+    m_tabActions->fillViewMenu(*m_viewMenu);
     m_viewMenu->addSeparator();
     m_viewMenu->addAction(m_bindings->action());
 }
@@ -185,37 +230,50 @@ void ViewerWindow::showFullScreen(bool on)
     setWindowState(windowState().setFlag(Qt::WindowFullScreen, on));
 }
 
-void ViewerWindow::removePage()
+void ViewerWindow::showPage(PlotPage* page)
 {
     takeFromPage();
+    const LayoutPause pause(*this);
     m_host.reset();
-    m_page.reset();
-    m_plotMenu->menuAction()->setEnabled(false);
-    m_pictures->setPage(nullptr);
-    m_closeAction->setEnabled(false);
-    m_statusAction->setEnabled(false);
-    setWindowTitle(tr("voranview"));
+    m_page = page;
+    m_history.setCurrent(page != nullptr ? &page->view() : nullptr);
+    m_pictures->setPage(page);
+    m_plotMenu->menuAction()->setEnabled(page != nullptr);
+    m_statusAction->setEnabled(page != nullptr);
+    m_linkAction->setEnabled(page != nullptr);
+    setWindowTitle(page != nullptr ? tr("%1 - voranview").arg(page->source().name()) : tr("voranview"));
+    if (page == nullptr)
+        return;
+    m_host = std::make_unique<PlotHost>(*this, *page, *m_plotMenu, *m_viewMenu, m_statusAction);
+    restoreState(m_barState);
+    page->setFocus();
 }
 
-void ViewerWindow::placePage(std::unique_ptr<PlotPage> page)
+void ViewerWindow::addPage(std::unique_ptr<PlotPage> page)
 {
-    removePage();
-    m_page = std::move(page);
-    m_preferences.applyTo(m_page->view());
-    m_page->view().setSubject(subjectOf(m_page->source()));
-    m_page->view().restoreKept();
-    m_bindings->attach(&m_page->plot());
-    m_stack->addWidget(m_page.get());
-    m_host = std::make_unique<PlotHost>(*this, *m_page, *m_plotMenu, *m_viewMenu, m_statusAction);
-    restoreState(m_barState);
-    statusBar()->setVisible(m_statusAction->isChecked());
-    m_plotMenu->menuAction()->setEnabled(true);
-    m_pictures->setPage(m_page.get());
-    m_closeAction->setEnabled(true);
-    m_statusAction->setEnabled(true);
-    setWindowTitle(tr("%1 - voranview").arg(m_page->source().name()));
-    m_stack->setCurrentWidget(m_page.get());
-    m_page->setFocus();
+    takeFromPage();
+    PlotView& view = page->view();
+    m_preferences.applyTo(view);
+    view.setSubject(subjectOf(page->source()));
+    view.restoreKept();
+    m_bindings->attach(&page->plot());
+    m_tabs->add(std::move(page));
+    // Taking over the view of linked plots is nothing to take back.
+    m_link.add(view);
+    m_history.add(view);
+    m_history.setCurrent(&view);
+}
+
+void ViewerWindow::letGo(PlotPage& page)
+{
+    keep(page);
+    m_link.remove(page.view());
+    m_history.remove(page.view());
+}
+
+void ViewerWindow::linkViews(bool on)
+{
+    m_link.setOn(on, m_page->view());
 }
 
 bool ViewerWindow::present(std::unique_ptr<PlotSource> source, QString& error)
@@ -227,7 +285,7 @@ bool ViewerWindow::present(std::unique_ptr<PlotSource> source, QString& error)
         return false;
     }
     const QString file = source->filePath();
-    placePage(std::make_unique<PlotPage>(std::move(source), std::move(view)));
+    addPage(std::make_unique<PlotPage>(std::move(source), std::move(view)));
     // Some names of grids inside files are no paths.
     if (QFileInfo::exists(file))
         RecentFiles::add(file);
@@ -241,12 +299,22 @@ bool ViewerWindow::open(const QString& path, int band, QString& error)
 
 void ViewerWindow::openFile(const QString& path)
 {
-    QString error;
-    if (open(path, 1, error))
-        return;
-    if (!QFileInfo::exists(path))
-        RecentFiles::remove(path);
-    QMessageBox::warning(this, tr("Open"), error);
+    openFiles({path});
+}
+
+void ViewerWindow::openFiles(const QStringList& paths)
+{
+    QStringList problems;
+    for (const QString& path : paths) {
+        QString error;
+        if (open(path, 1, error))
+            continue;
+        problems.append(error);
+        if (!QFileInfo::exists(path))
+            RecentFiles::remove(path);
+    }
+    if (!problems.isEmpty())
+        QMessageBox::warning(this, tr("Open"), problems.join('\n'));
 }
 
 void ViewerWindow::showPlot(std::unique_ptr<PlotSource> source)
@@ -258,8 +326,8 @@ void ViewerWindow::showPlot(std::unique_ptr<PlotSource> source)
 
 void ViewerWindow::closePlot()
 {
-    removePage();
-    m_stack->setCurrentWidget(m_startPage);
+    if (m_page)
+        m_tabs->close(*m_page);
 }
 
 void ViewerWindow::chooseFile()
@@ -270,13 +338,13 @@ void ViewerWindow::chooseFile()
         tr("Spectra (*.csv *.tsv *.txt *.dat)"),
         tr("Meshes (*.off *.obj *.ply *.stl *.3ds *.dae *.gltf *.glb *.fbx *.x3d)")};
     QSettings settings;
-    const QString path =
-        QFileDialog::getOpenFileName(this, tr("Open"), settings.value(folderKey).toString(),
-                                     QStringList(std::begin(filters), std::end(filters)).join(";;"));
-    if (path.isEmpty())
+    const QStringList paths =
+        QFileDialog::getOpenFileNames(this, tr("Open"), settings.value(folderKey).toString(),
+                                      QStringList(std::begin(filters), std::end(filters)).join(";;"));
+    if (paths.isEmpty())
         return;
-    settings.setValue(folderKey, QFileInfo(path).absolutePath());
-    openFile(path);
+    settings.setValue(folderKey, QFileInfo(paths.first()).absolutePath());
+    openFiles(paths);
 }
 
 void ViewerWindow::askFormula()
@@ -293,17 +361,17 @@ void ViewerWindow::fitPlot(const QSize& size)
 
 void ViewerWindow::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (!droppedFile(*event->mimeData()).isEmpty())
+    if (!droppedFiles(*event->mimeData()).isEmpty())
         event->acceptProposedAction();
 }
 
 void ViewerWindow::dropEvent(QDropEvent* event)
 {
-    const QString path = droppedFile(*event->mimeData());
-    if (path.isEmpty())
+    const QStringList paths = droppedFiles(*event->mimeData());
+    if (paths.isEmpty())
         return;
     event->acceptProposedAction();
-    openFile(path);
+    openFiles(paths);
 }
 
 // The window manager goes full screen and back, too.
