@@ -239,6 +239,10 @@ void PlotTabs::close(PlotPage& page)
 void PlotTabs::closeOthers(PlotPage& page)
 {
     activate(page);
+    {
+        const Change change(*this);
+        removeHome();
+    }
     for (PlotPage* other : pages()) {
         if (other != &page)
             close(*other);

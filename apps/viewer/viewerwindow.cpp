@@ -28,6 +28,7 @@
 #include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
+#include <QToolButton>
 
 namespace {
 
@@ -220,6 +221,17 @@ void ViewerWindow::createViewMenu()
     m_linkAction = addSwitch(tr("&Link views"), Qt::CTRL + Qt::SHIFT + Qt::Key_L);
     m_linkAction->setStatusTip(tr("Turn, zoom and shift all plots together"));
     connect(m_linkAction, &QAction::triggered, this, &ViewerWindow::linkViews);
+    // Where it is seen, too, that plots are linked.
+    auto* link = new QToolButton;
+    link->setAutoRaise(true);
+    link->setFocusPolicy(Qt::NoFocus);
+    link->setDefaultAction(m_linkAction);
+    link->setVisible(false);
+    menuBar()->setCornerWidget(link);
+    connect(m_tabs, &PlotTabs::arranged, link, [this, link] {
+        link->setVisible(m_tabs->pages().size() > 1);
+        menuBar()->adjustSize();
+    });
     m_tabActions->fillViewMenu(*m_viewMenu);
     m_viewMenu->addSeparator();
     m_viewMenu->addAction(m_bindings->action());

@@ -56,6 +56,7 @@ private slots:
     void startPageStandsInATab();
     void plotsCloseInAnyOrder_data();
     void plotsCloseInAnyOrder();
+    void settingsOfSeveralPlotsAtOnce();
     void panesKeepThePlots();
     void panesGoWithTheirLastPlot();
     void menusBelongToTheActivePlot();
@@ -237,6 +238,30 @@ void TestViewerTabs::plotsCloseInAnyOrder()
     // Under the link still.
     openThree();
     QVERIFY(!(page(0).plot().getRotation() != page(2).plot().getRotation()));
+}
+
+void TestViewerTabs::settingsOfSeveralPlotsAtOnce()
+{
+    openThree();
+    const auto isOpen = [](PlotPage& page) { return Zel3D::PlotSettingsDialog::of(page.plot()) != nullptr; };
+    bool both = false;
+    bool none = true;
+    // Each entry of the menu returns when its dialog closes, the later one first.
+    QTimer::singleShot(0, this, [&] {
+        m_window->tabs().activate(page(0));
+        QTimer::singleShot(0, this, [&] {
+            both = isOpen(page(0)) && isOpen(page(2)) && !isOpen(page(1));
+            m_window->tabs().close(page(2));
+            m_window->tabs().close(page(0));
+            none = !isOpen(page(0));
+        });
+        action("Settings...").trigger();
+    });
+    action("Settings...").trigger();
+    QVERIFY(both && none);
+    QCOMPARE(m_window->tabs().pages().size(), 1);
+    QVERIFY(m_window->page()->plot().isVisible());
+    QVERIFY(m_window->windowTitle().startsWith("gasoline_nir.csv"));
 }
 
 void TestViewerTabs::panesKeepThePlots()
