@@ -350,6 +350,13 @@ void TestViewerTabs::menusBelongToTheActivePlot()
     action("Top view").trigger();
     QCOMPARE(spectra.getRotation().x, 90.0);
     QCOMPARE(surface.getRotation().x, angle);
+    QCoreApplication::processEvents();
+    QApplication::setActiveWindow(m_window.get());
+    QTest::keyClick(m_window.get(), Qt::Key_2, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(spectra.getRotation().x, -90.0);
+    QCOMPARE(surface.getRotation().x, angle);
+    QTest::keyClick(&spectra, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(spectra.getRotation().x, 90.0);
     m_window->tabs().activate(page(2));
     action("Wireframe").trigger();
     QCOMPARE(page(2).view().plotStyle(), int(PlotStyles::Wireframe));
