@@ -249,23 +249,18 @@ void ViewHistory::step(bool back)
         return;
     const QScopedValueRollback<bool> stepping(m_stepping, true);
     const int number = next->run();
-    QList<PlotView*> followers;
-    m_link.setPaused(true);
     for (const auto& tracked : m_tracked) {
         tracked->run.open = false;
         if (tracked.get() == m_current || !m_link.isOn())
             continue;
         tracked->view->stopTurning();
+        // Those that have another entry there only follow.
         const ViewChange* same = nextOf(tracked->stack, back);
         if (same != nullptr && same->run() == number)
             take(tracked->stack, back);
-        else
-            followers.append(tracked->view);
     }
     m_current->view->stopTurning();
     take(m_current->stack, back);
-    m_link.setPaused(false);
-    m_link.align(*m_current->view, followers);
     for (const auto& tracked : m_tracked)
         tracked->state = ViewState::of(*tracked->view);
 }

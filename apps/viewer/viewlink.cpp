@@ -98,7 +98,7 @@ void ViewLink::align(PlotView& leader, const QList<PlotView*>& others)
 
 void ViewLink::pass(PlotView& from, Part part)
 {
-    if (!m_on || m_paused || m_source != nullptr)
+    if (!m_on || m_source != nullptr)
         return;
     const QScopedValueRollback<PlotView*> source(m_source, &from);
     for (PlotView* other : qAsConst(m_views)) {

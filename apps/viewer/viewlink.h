@@ -3,13 +3,7 @@
 #include <QList>
 #include <QObject>
 
-#include <functional>
-
 class PlotView;
-
-namespace Zel3D {
-class BasePlot;
-}
 
 /// Plots that are seen from the same place: while the link is on, the rotation, shift, zoom and projection of
 /// each go to all others, which repaint once.
@@ -30,15 +24,11 @@ public:
     bool isOn() const { return m_on; }
     /// Switched on, the others take over the view of \a leader.
     void setOn(bool on, PlotView& leader);
-    /// Shows others from where a plot is seen, whether the link is on or not.
-    void align(PlotView& leader, const QList<PlotView*>& others);
 
     /// The plot whose change is being passed on; null at other times.
     PlotView* source() const { return m_source; }
     /// Whether all of a view is being passed on, and not a change of it.
     bool isAligning() const { return m_aligning; }
-    /// Paused, nothing is passed on.
-    void setPaused(bool on) { m_paused = on; }
 
 protected:
     /// A press stops what turns by itself, on whichever plot.
@@ -47,10 +37,10 @@ protected:
 private:
     using Part = void (*)(PlotView& from, PlotView& to);
     void pass(PlotView& from, Part part);
+    void align(PlotView& leader, const QList<PlotView*>& others);
 
     QList<PlotView*> m_views;
     PlotView* m_source = nullptr;
     bool m_on = false;
     bool m_aligning = false;
-    bool m_paused = false;
 };
