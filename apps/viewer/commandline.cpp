@@ -1,6 +1,5 @@
 #include "commandline.h"
 
-#include "filekind.h"
 #include "formula.h"
 #include "gradients/gradientpresets.h"
 #include "plotstyles.h"
@@ -9,6 +8,7 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -50,8 +50,8 @@ CommandLine::CommandLine()
     m_parser.addPositionalArgument(
         "FILE",
         tr("A grid of any format that GDAL reads, a mesh (OFF, OBJ, PLY, STL, glTF "
-           "...) or spectra in a CSV file."),
-        "[FILE]");
+           "...) or spectra in a CSV file. Several files open in tabs."),
+        "[FILE...]");
     m_parser.addOptions({
         {"function", tr("Show z as a formula of x and y, such as \"sin(x)*cos(y)\"."), "FORMULA"},
         {"range",
@@ -134,10 +134,7 @@ CommandLine::Outcome CommandLine::parse(const QStringList& arguments)
 
 CommandLine::Outcome CommandLine::take()
 {
-    const QStringList files = m_parser.positionalArguments();
-    if (files.size() > 1)
-        return refuse(tr("Only one file can be shown; %1 are named.").arg(files.size()));
-    m_file = files.value(0);
+    m_files = m_parser.positionalArguments();
     m_template = m_parser.value("template");
     if (m_parser.isSet("template") && m_template.isEmpty())
         return refuse(tr("The option --template names no file."));
@@ -159,23 +156,28 @@ CommandLine::Outcome CommandLine::take()
     return takePictures() ? checkTogether() : Refuse;
 }
 
+bool CommandLine::isAny(FileKind kind) const
+{
+    return std::any_of(m_files.begin(), m_files.end(),
+                       [kind](const QString& file) { return fileKind(file) == kind; });
+}
+
 CommandLine::Outcome CommandLine::checkTogether()
 {
-    if (!m_formula.isEmpty() && !m_file.isEmpty())
+    if (!m_formula.isEmpty() && !m_files.isEmpty())
         return refuse(tr("A file and a formula are named; only one of them can be shown."));
     for (const char* option : {"range", "mesh"}) {
         if (m_parser.isSet(option) && m_formula.isEmpty())
             return refuse(tr("The option --%1 is for a formula; none is named with --function.").arg(option));
     }
     for (const char* option : {"band", "part", "budget"}) {
-        const bool grid = m_formula.isEmpty() && !m_file.isEmpty() && fileKind(m_file) == FileKind::Grid;
-        if (m_parser.isSet(option) && !grid)
+        if (m_parser.isSet(option) && !isAny(FileKind::Grid))
             return refuse(tr("The option --%1 is for grid files; none is named.").arg(option));
     }
-    if (m_parser.isSet("log") && !m_file.isEmpty() && fileKind(m_file) == FileKind::Mesh)
+    if (m_parser.isSet("log") && isAny(FileKind::Mesh))
         return refuse(tr("The option --log is for grids, spectra and formulas; a mesh is named."));
     for (const char* option : {"view", "gradient", "axes", "log"}) {
-        if (m_parser.isSet(option) && m_file.isEmpty() && m_formula.isEmpty())
+        if (m_parser.isSet(option) && m_files.isEmpty() && m_formula.isEmpty())
             return refuse(
                 tr("The option --%1 needs a file or a formula to show; none is named.").arg(option));
     }
@@ -199,17 +201,27 @@ bool CommandLine::takePictures()
 
 CommandLine::Outcome CommandLine::checkPictures()
 {
-    if (!m_pictures.isEmpty() && m_file.isEmpty() && m_formula.isEmpty())
+    if (!m_pictures.isEmpty() && m_files.isEmpty() && m_formula.isEmpty())
         return refuse(tr("A picture needs a file or a formula to show; none is named."));
+    if (!m_pictures.isEmpty() && m_files.size() > 1)
+        return refuse(
+            tr("A picture is of one file, but %1 are named; name one file in each run.").arg(m_files.size()));
     if (isTransparent() && m_pictures.isEmpty())
         return refuse(tr("The option --transparent is for pictures; none is named."));
     return Show;
 }
 
-PlotKind CommandLine::kind() const
+QSet<PlotKind> CommandLine::kinds() const
 {
-    const bool spectra = !m_file.isEmpty() && fileKind(m_file) == FileKind::Spectra;
-    return spectra ? PlotKind::Spectra : PlotKind::Surface;
+    QSet<PlotKind> found;
+    for (const QString& file : m_files)
+        found.insert(fileKind(file) == FileKind::Spectra ? PlotKind::Spectra : PlotKind::Surface);
+    return found.isEmpty() ? QSet<PlotKind>{PlotKind::Surface} : found;
+}
+
+std::optional<int> CommandLine::style(PlotKind kind) const
+{
+    return m_styles.contains(kind) ? std::optional<int>(m_styles.value(kind)) : std::nullopt;
 }
 
 bool CommandLine::takeFormula(const QString& value)
@@ -241,12 +253,17 @@ bool CommandLine::takeMesh(const QString& value)
 
 bool CommandLine::takeStyle(const QString& value)
 {
-    m_style = PlotStyles::fromName(kind(), value);
-    if (!m_style)
-        refuse((kind() == PlotKind::Spectra ? tr("Spectra have no plot style \"%1\"; the styles are %2.")
-                                            : tr("There is no plot style \"%1\"; the styles are %2."))
-                   .arg(value, PlotStyles::names(kind()).join(", ")));
-    return m_style.has_value();
+    for (const PlotKind kind : kinds()) {
+        const std::optional<int> style = PlotStyles::fromName(kind, value);
+        if (!style) {
+            refuse((kind == PlotKind::Spectra ? tr("Spectra have no plot style \"%1\"; the styles are %2.")
+                                              : tr("There is no plot style \"%1\"; the styles are %2."))
+                       .arg(value, PlotStyles::names(kind).join(", ")));
+            return false;
+        }
+        m_styles[kind] = *style;
+    }
+    return true;
 }
 
 bool CommandLine::takeLook(const QString& value)

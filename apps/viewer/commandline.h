@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/types.h"
+#include "filekind.h"
 #include "formulaarea.h"
 #include "gridfile.h"
 #include "plotkind.h"
@@ -8,6 +9,8 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QMap>
+#include <QSet>
 #include <QSize>
 #include <QString>
 #include <QStringList>
@@ -40,8 +43,8 @@ public:
     /// The help, the version or the sentence that says what is wrong with the arguments.
     const QString& text() const { return m_text; }
 
-    /// The file, or empty.
-    const QString& file() const { return m_file; }
+    /// The files; one at most where there are pictures or a formula.
+    const QStringList& files() const { return m_files; }
     /// The band of a grid file, from 1.
     int band() const { return m_band; }
     /// What of a grid file to read; a budget of 0 when none was asked for.
@@ -50,10 +53,10 @@ public:
     const QString& formula() const { return m_formula; }
     /// Where the formula is evaluated.
     const FormulaArea& area() const { return m_area; }
-    /// The kind of plot that file or formula need; surfaces without either.
-    PlotKind kind() const;
-    /// The plot style of that kind, when one was asked for.
-    std::optional<int> style() const { return m_style; }
+    /// The kinds of plot that files or formula need; surfaces without either.
+    QSet<PlotKind> kinds() const;
+    /// The plot style of one of these kinds, when one was asked for.
+    std::optional<int> style(PlotKind kind) const;
     /// The look, when one was asked for.
     const std::optional<Zel3D::Look>& look() const { return m_look; }
     /// The template to apply, or empty.
@@ -89,6 +92,7 @@ private:
     bool takeAxes(const QString& value);
     bool takeLogarithmic(const QString& value);
     void addPictureOptions();
+    bool isAny(FileKind kind) const;
     bool takePictures();
     Outcome checkPictures();
     Outcome take();
@@ -96,7 +100,7 @@ private:
 
     QCommandLineParser m_parser;
     QString m_text;
-    QString m_file;
+    QStringList m_files;
     QString m_formula;
     FormulaArea m_area;
     QVector<WantedPicture> m_pictures;
@@ -105,7 +109,7 @@ private:
     std::array<QString, 3> m_axes;
     std::array<bool, 3> m_logarithmic{};
     QString m_template;
-    std::optional<int> m_style;
+    QMap<PlotKind, int> m_styles;
     std::optional<Zel3D::Look> m_look;
     std::optional<QSize> m_size;
     int m_band = 1;

@@ -28,20 +28,24 @@ namespace {
 constexpr int messageTime = 8000;
 constexpr int refreshTime = 500;
 
-/// The file that an address, or a text of one line, names; empty for none.
-QString fileOf(const QMimeData& data)
+/// The files that addresses, or a text of one line, name.
+QStringList filesOf(const QMimeData& data)
 {
-    const QList<QUrl> urls = data.urls();
-    if (!urls.isEmpty())
-        return urls.first().toLocalFile();
-    QString text = data.text().trimmed();
+    QStringList files;
+    for (const QUrl& url : data.urls()) {
+        if (url.isLocalFile())
+            files.append(url.toLocalFile());
+    }
+    QString text = data.hasUrls() ? QString() : data.text().trimmed();
     if (text.isEmpty() || text.contains('\n') || text.contains('\t'))
-        return QString();
+        return files;
     if (text.size() > 1 && text.startsWith('"') && text.endsWith('"'))
         text = text.mid(1, text.size() - 2);
     if (text.startsWith("file:"))
-        return QUrl(text).toLocalFile();
-    return QFileInfo(text).isAbsolute() && QFileInfo::exists(text) ? text : QString();
+        text = QUrl(text).toLocalFile();
+    if (QFileInfo(text).isAbsolute() && QFileInfo::exists(text))
+        files.append(text);
+    return files;
 }
 
 } // namespace
@@ -259,7 +263,7 @@ void DataActions::tell(const QString& sentence)
 
 bool DataActions::canTake(const QMimeData& data)
 {
-    return !fileOf(data).isEmpty() || (!data.hasUrls() && !data.text().trimmed().isEmpty());
+    return !filesOf(data).isEmpty() || (!data.hasUrls() && !data.text().trimmed().isEmpty());
 }
 
 void DataActions::paste(bool ask)
@@ -271,7 +275,7 @@ void DataActions::paste(bool ask)
                                     "spreadsheet, then paste them here."));
         return;
     }
-    if (fileOf(*data).isEmpty())
+    if (filesOf(*data).isEmpty())
         takeTable(data->text(), ask);
     else
         take(*data);
@@ -279,11 +283,11 @@ void DataActions::paste(bool ask)
 
 void DataActions::take(const QMimeData& data)
 {
-    const QString path = fileOf(data);
-    if (path.isEmpty())
+    const QStringList paths = filesOf(data);
+    if (paths.isEmpty())
         takeTable(data.text(), false);
     else
-        m_opener.file(path);
+        m_opener.files(paths);
 }
 
 void DataActions::takeTable(const QString& text, bool ask)

@@ -31,7 +31,7 @@ public:
     struct Opener
     {
         std::function<void(std::unique_ptr<PlotSource>)> source;
-        std::function<void(const QString& path)> file;
+        std::function<void(const QStringList& paths)> files;
     };
 
     /// Adds entries to two menus of the window, and its docks, which are hidden at first.

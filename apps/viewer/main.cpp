@@ -15,6 +15,7 @@
 
 #include <csignal>
 #include <cstdio>
+#include <vector>
 
 namespace {
 
@@ -45,21 +46,28 @@ void silenceDebugMessages()
         QLoggingCategory::setFilterRules("default.debug=false");
 }
 
-int refuse(const QString& sentence)
+void tell(const QString& sentence)
 {
     std::fprintf(stderr, "voranview: %s\n", qPrintable(sentence));
+}
+
+int refuse(const QString& sentence)
+{
+    tell(sentence);
     return EXIT_FAILURE;
 }
 
-std::unique_ptr<PlotSource> sourceOf(const CommandLine& wanted)
+/// What is to be shown: the formula or each of the files.
+std::vector<std::unique_ptr<PlotSource>> sourcesOf(const CommandLine& wanted)
 {
-    std::unique_ptr<PlotSource> source;
-    if (wanted.formula().isEmpty())
-        source = sourceOfFile(wanted.file(), wanted.band(), wanted.choice());
-    else
-        source = std::make_unique<FormulaSource>(wanted.formula(), wanted.area());
-    source->setLogarithmic(wanted.logarithmic());
-    return source;
+    std::vector<std::unique_ptr<PlotSource>> sources;
+    for (const QString& file : wanted.files())
+        sources.push_back(sourceOfFile(file, wanted.band(), wanted.choice()));
+    if (!wanted.formula().isEmpty())
+        sources.push_back(std::make_unique<FormulaSource>(wanted.formula(), wanted.area()));
+    for (const std::unique_ptr<PlotSource>& source : sources)
+        source->setLogarithmic(wanted.logarithmic());
+    return sources;
 }
 
 /// What was asked for beside look and style. False when the template cannot be used; \a error says why.
@@ -85,11 +93,10 @@ bool dress(PlotView& view, const CommandLine& wanted, QString& error)
 void tellNotes(const PlotSource& source)
 {
     for (const QString& note : source.notes())
-        std::fprintf(stderr, "voranview: %s\n", qPrintable(note));
+        tell(note);
     if (source.isThinned())
-        std::fprintf(stderr, "voranview: %s\n",
-                     qPrintable(QCoreApplication::translate(
-                         "main", "--part shows a part of it in full, --budget more nodes of all of it.")));
+        tell(QCoreApplication::translate(
+            "main", "--part shows a part of it in full, --budget more nodes of all of it."));
 }
 
 int savePictures(Zel3D::BasePlot& plot, const CommandLine& wanted, const QSize& size, ProgressLine& line)
@@ -107,7 +114,7 @@ int savePictures(Zel3D::BasePlot& plot, const CommandLine& wanted, const QSize& 
         if (!result.done)
             return refuse(result.message);
         if (!result.message.isEmpty())
-            std::fprintf(stderr, "voranview: %s\n", qPrintable(result.message));
+            tell(result.message);
     }
     return EXIT_SUCCESS;
 }
@@ -116,7 +123,7 @@ int takePictures(const CommandLine& wanted)
 {
     std::signal(SIGINT, interrupt);
     ProgressLine line(stderr, [] { return interruptions != 0; });
-    const std::unique_ptr<PlotSource> source = sourceOf(wanted);
+    const std::unique_ptr<PlotSource> source = std::move(sourcesOf(wanted).front());
     const std::unique_ptr<PlotView> view = source->open(line.loadProgress(source->name()));
     line.clear();
     if (source->isCancelled())
@@ -127,8 +134,8 @@ int takePictures(const CommandLine& wanted)
     const QSize size = wanted.size().value_or(usualPicture);
     Zel3D::BasePlot& plot = view->plot();
     plot.resize(size / plot.devicePixelRatioF());
-    if (wanted.style())
-        plot.setPlotStyle(*wanted.style());
+    if (const std::optional<int> style = wanted.style(view->kind()))
+        plot.setPlotStyle(*style);
     if (wanted.look())
         view->setLook(*wanted.look());
     view->resetView();
@@ -136,28 +143,45 @@ int takePictures(const CommandLine& wanted)
     return dress(*view, wanted, error) ? savePictures(plot, wanted, size, line) : refuse(error);
 }
 
+/// Shows a source in the window as it was asked for. False when that fails; \a error says why.
+bool show(ViewerWindow& window, std::unique_ptr<PlotSource> source, const CommandLine& wanted, QString& error)
+{
+    if (!window.present(std::move(source), error))
+        return false;
+    PlotView& view = window.page()->view();
+    tellNotes(window.page()->source());
+    // Over what was kept of the data.
+    if (wanted.look())
+        view.setLook(*wanted.look());
+    if (const std::optional<int> style = wanted.style(view.kind()))
+        view.plot().setPlotStyle(*style);
+    return dress(view, wanted, error);
+}
+
 int showWindow(const CommandLine& wanted)
 {
     ViewerWindow window;
     if (wanted.look())
         window.preferences().setLook(*wanted.look());
-    if (wanted.style())
-        window.preferences().setStyle(wanted.kind(), *wanted.style());
-    QString error;
-    if (!wanted.file().isEmpty() || !wanted.formula().isEmpty()) {
-        if (!window.present(sourceOf(wanted), error) && !error.isEmpty())
-            return refuse(error);
+    for (const PlotKind kind : wanted.kinds()) {
+        if (const std::optional<int> style = wanted.style(kind))
+            window.preferences().setStyle(kind, *style);
     }
-    if (window.page()) {
-        tellNotes(window.page()->source());
-        // Over what was kept of the data.
-        if (wanted.look())
-            window.page()->view().setLook(*wanted.look());
-        if (wanted.style())
-            window.page()->plot().setPlotStyle(*wanted.style());
+    std::vector<std::unique_ptr<PlotSource>> sources = sourcesOf(wanted);
+    int failures = 0;
+    for (std::unique_ptr<PlotSource>& source : sources) {
+        QString error;
+        if (show(window, std::move(source), wanted, error))
+            continue;
+        // Cancelled, and with it those that would follow.
+        if (error.isEmpty())
+            break;
+        ++failures;
+        tell(error);
     }
-    if (window.page() && !dress(window.page()->view(), wanted, error))
-        return refuse(error);
+    // Some of several files are better than none.
+    if (failures > 0 && failures == int(sources.size()))
+        return EXIT_FAILURE;
     window.show();
     if (wanted.size())
         window.fitPlot(*wanted.size());

@@ -20,12 +20,13 @@ QIcon icon(const char* name)
 
 } // namespace
 
-PlotHost::PlotHost(QMainWindow& window, PlotPage& page, QMenu& plotMenu, QMenu& viewMenu, QAction* viewEnd)
+PlotHost::PlotHost(QMainWindow& window, PlotPage& page, QMenu& plotMenu, QMenu& viewMenu,
+                   QAction* statusAction)
     : QObject(&window), m_window(window), m_page(page), m_viewMenu(viewMenu), m_plotMenu(plotMenu, page, this)
 {
-    placeStatusBar();
+    placeStatusBar(statusAction->isChecked());
     placeToolBars();
-    fillViewMenu(viewEnd);
+    fillViewMenu(statusAction);
 }
 
 PlotHost::~PlotHost()
@@ -41,7 +42,7 @@ PlotHost::~PlotHost()
     m_window.setStatusBar(nullptr);
 }
 
-void PlotHost::placeStatusBar()
+void PlotHost::placeStatusBar(bool visible)
 {
     auto* bar = new Zel3D::PlotStatusBar(&m_page.plot(), &m_window);
     auto* description = new QLabel(m_page.source().description());
@@ -51,13 +52,15 @@ void PlotHost::placeStatusBar()
     description->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     bar->addWidget(description, 1);
     m_window.setStatusBar(bar);
+    bar->setVisible(visible);
     sayPicked(*bar);
 }
 
 void PlotHost::sayPicked(Zel3D::PlotStatusBar& bar)
 {
     // After the bar's own words, which these take the place of.
-    connect(&m_page.plot(), &Zel3D::BasePlot::selectedObject, &bar,
+    // The bar lives a little longer than this object.
+    connect(&m_page.plot(), &Zel3D::BasePlot::selectedObject, this,
             [this, &bar](const Zel3D::SelectedObjectsInfo& info) {
                 const QString text = info.valid ? m_page.source().describe(info) : QString();
                 if (!text.isEmpty())

@@ -19,12 +19,13 @@ class PlotHost : public QObject
 {
     Q_OBJECT
 public:
-    /// The view menu's own entries begin with \a viewEnd; those of the plot stand before it.
-    PlotHost(QMainWindow& window, PlotPage& page, QMenu& plotMenu, QMenu& viewMenu, QAction* viewEnd);
+    /// The view menu's own entries begin with \a statusAction, which tells whether the status bar is shown;
+    /// those of the plot stand before it.
+    PlotHost(QMainWindow& window, PlotPage& page, QMenu& plotMenu, QMenu& viewMenu, QAction* statusAction);
     ~PlotHost() override;
 
 private:
-    void placeStatusBar();
+    void placeStatusBar(bool visible);
     void placeToolBars();
     void fillViewMenu(QAction* end);
     QMenu* addSubmenu(const QString& text, QAction* end);

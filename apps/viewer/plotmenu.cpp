@@ -153,7 +153,9 @@ void PlotMenu::addLooks(QMenu& menu)
 
 void PlotMenu::addTemplates()
 {
+    // The menu comes and goes more often than the page, which is the parent of the dialogs.
     auto* templates = new Zel3D::TemplateActions(&m_page.plot(), &m_page);
+    connect(this, &QObject::destroyed, templates, &QObject::deleteLater);
     QMenu* menu = templates->makeMenu(&m_menu);
     m_menu.addMenu(menu);
     m_submenus.append(menu);

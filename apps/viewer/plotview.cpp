@@ -8,6 +8,7 @@
 
 #include <QCryptographicHash>
 #include <QSettings>
+#include <QSignalBlocker>
 
 #include <algorithm>
 
@@ -69,19 +70,50 @@ void PlotView::resetView()
     fit();
 }
 
+bool PlotView::isAtStart()
+{
+    const Zel3D::BasePlot& shown = plot();
+    const Zel3D::ValueXYZ<double> none;
+    return isFitted() && !(shown.getRotation() != m_rotation) && !(shown.getShift() != none) &&
+           shown.getViewportShift().x == startShift && shown.getViewportShift().y == 0.0;
+}
+
 void PlotView::fit()
 {
     Zel3D::BasePlot& shown = plot();
     const double aspect = double(std::max(shown.width(), 1)) / std::max(shown.height(), 1);
-    shown.setZoom(
-        Zel3D::ViewFit::zoom(shown.getHull(), shown.getScale(), shown.getRotation(), aspect, startPart));
+    const double zoom =
+        Zel3D::ViewFit::zoom(shown.getHull(), shown.getScale(), shown.getRotation(), aspect, startPart);
+    restoreZoom(zoom, zoom);
     m_fittedZoom = shown.getZoom();
+}
+
+void PlotView::restoreZoom(double zoom, double fitted)
+{
+    // First, so that who hears of the zoom finds both.
+    m_fittedZoom = fitted;
+    plot().setZoom(zoom);
+}
+
+bool PlotView::isFitted()
+{
+    return plot().getZoom() == m_fittedZoom;
 }
 
 void PlotView::refit()
 {
-    if (plot().getZoom() == m_fittedZoom)
+    if (isFitted())
         fit();
+}
+
+void PlotView::stopTurning()
+{
+    if (!plot().isAutoRotating())
+        return;
+    // The choice whether released drags go on stays what it was.
+    const QSignalBlocker quiet(plot());
+    plot().setAutoRotate(false);
+    plot().setAutoRotate(true);
 }
 
 void PlotView::setSubject(const QString& subject)
@@ -101,7 +133,7 @@ void PlotView::keepOwn()
 {
     QSettings store(plot().getOrganization(), plot().getApplication());
     store.setValue(lookKey.arg(m_storeName), m_look.name);
-    store.setValue(fittedKey.arg(m_storeName), plot().getZoom() == m_fittedZoom);
+    store.setValue(fittedKey.arg(m_storeName), isFitted());
 }
 
 void PlotView::restoreKept()

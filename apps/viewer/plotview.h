@@ -36,6 +36,18 @@ public:
     void setStartRotation(const Zel3D::ValueXYZ<double>& degrees) { m_rotation = degrees; }
     /// Puts rotation, shift and zoom back to the start view, without repainting.
     void resetView();
+    /// Whether resetView() would change nothing, but for the size of the window.
+    bool isAtStart();
+    /// Makes the plot fill its window as it is seen now, without repainting.
+    void fit();
+    /// Whether it fills the window and goes on doing so when the window's size changes.
+    bool isFitted();
+    /// The zoom at which the plot filled the window when it was fitted last.
+    double fittedZoom() const { return m_fittedZoom; }
+    /// Brings back a zoom together with the one that filled the window at its time, without repainting.
+    void restoreZoom(double zoom, double fitted);
+    /// Ends what a released drag has started.
+    void stopTurning();
     /// The names on every edge of x, y and z; an empty one leaves that axis as it is.
     void nameAxes(const std::array<QString, 3>& names);
 
@@ -60,8 +72,6 @@ protected:
     virtual void loadKept() = 0;
 
 private:
-    void fit();
-
     Zel3D::Look m_look;
     QString m_gradientName;
     QLinearGradient m_gradient;

@@ -9,10 +9,12 @@
 #include "plothost.h"
 #include "plotpage.h"
 #include "plots/baseplot.h"
+#include "plottabs.h"
 #include "progressbox.h"
 #include "recentfiles.h"
 #include "recentmenu.h"
 #include "startpage.h"
+#include "tabactions.h"
 #include "toroidsource.h"
 #include "viewerbindings.h"
 #include "watersource.h"
@@ -22,14 +24,15 @@
 #include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLayout>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QSettings>
-#include <QStackedWidget>
 #include <QStatusBar>
+#include <QToolButton>
 
 namespace {
 
@@ -51,6 +54,30 @@ QString subjectOf(const PlotSource& source)
     return file.isEmpty() ? source.name() : QFileInfo(file).absoluteFilePath() + ' ' + source.name();
 }
 
+/// What was changed after the last save belongs to it: a look from the menu, the view.
+void keep(PlotPage& page)
+{
+    if (page.view().isKept())
+        page.plot().slotSaveSettings();
+}
+
+/// While it lives, bars come and go without moving what stands in the middle of the window.
+class LayoutPause
+{
+public:
+    explicit LayoutPause(QMainWindow& window) : m_window(window) { m_window.layout()->setEnabled(false); }
+    ~LayoutPause()
+    {
+        m_window.layout()->setEnabled(true);
+        m_window.layout()->activate();
+    }
+    LayoutPause(const LayoutPause&) = delete;
+    LayoutPause& operator=(const LayoutPause&) = delete;
+
+private:
+    QMainWindow& m_window;
+};
+
 /// The cursor of work while the object lives; the progress can still be clicked on.
 class WaitCursor
 {
@@ -64,19 +91,19 @@ public:
 } // namespace
 
 ViewerWindow::ViewerWindow()
-    : m_preferences(PlotPreferences::stored()),
-      m_bindings(new ViewerBindings(this)),
-      m_stack(new QStackedWidget)
+    : m_preferences(PlotPreferences::stored()), m_bindings(new ViewerBindings(this)), m_history(m_link)
 {
-    setCentralWidget(m_stack);
     setWindowIcon(icon("voranview"));
     setAcceptDrops(true);
+    // Every step would paint the plots at another size.
+    setAnimated(false);
     createFileMenu();
+    createEditMenu();
     m_plotMenu = menuBar()->addMenu(tr("&Plot"));
+    createTabs();
     createViewMenu();
-    createStartPage();
     restore();
-    removePage();
+    showPage(nullptr);
 }
 
 ViewerWindow::~ViewerWindow()
@@ -85,13 +112,20 @@ ViewerWindow::~ViewerWindow()
     m_host.reset();
 }
 
-void ViewerWindow::createStartPage()
+void ViewerWindow::createTabs()
 {
     const QString folder = Examples::folder(QCoreApplication::applicationDirPath());
-    m_startPage = new StartPage(Examples::all(folder), m_openAction, m_newActions);
-    m_stack->addWidget(m_startPage);
-    connect(m_startPage, &StartPage::fileChosen, this, &ViewerWindow::openFile, Qt::QueuedConnection);
-    connect(m_recentMenu, &RecentMenu::cleared, m_startPage, &StartPage::refresh);
+    auto* startPage = new StartPage(Examples::all(folder), m_openAction, m_newActions);
+    connect(startPage, &StartPage::fileChosen, this, &ViewerWindow::openFile, Qt::QueuedConnection);
+    connect(m_recentMenu, &RecentMenu::cleared, startPage, &StartPage::refresh);
+    m_tabs = new PlotTabs(*startPage);
+    setCentralWidget(m_tabs);
+    connect(m_tabs, &PlotTabs::currentChanged, this, &ViewerWindow::showPage);
+    connect(m_tabs, &PlotTabs::closing, this, [this](PlotPage* page) { letGo(*page); });
+    m_tabActions = new TabActions(*m_tabs);
+    m_fileMenu->addSeparator();
+    m_tabActions->fillFileMenu(*m_fileMenu);
+    m_fileMenu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence(Qt::CTRL + Qt::Key_Q));
 }
 
 void ViewerWindow::restore()
@@ -110,13 +144,13 @@ void ViewerWindow::takeFromPage()
         return;
     m_preferences.takeFrom(m_page->view());
     m_barState = saveState();
-    // What was changed after the last save belongs to it: a look from the menu, the view.
-    if (m_page->view().isKept())
-        m_page->plot().slotSaveSettings();
+    keep(*m_page);
 }
 
 void ViewerWindow::remember()
 {
+    for (PlotPage* page : m_tabs->pages())
+        keep(*page);
     takeFromPage();
     m_preferences.store();
     QSettings settings;
@@ -127,23 +161,26 @@ void ViewerWindow::remember()
 
 void ViewerWindow::createFileMenu()
 {
-    QMenu* menu = menuBar()->addMenu(tr("&File"));
-    menu->addMenu(createNewMenu());
-    m_openAction =
-        menu->addAction(icon("open"), tr("&Open..."), this, &ViewerWindow::chooseFile, QKeySequence::Open);
+    m_fileMenu = menuBar()->addMenu(tr("&File"));
+    m_fileMenu->addMenu(createNewMenu());
+    m_openAction = m_fileMenu->addAction(icon("open"), tr("&Open..."), this, &ViewerWindow::chooseFile,
+                                         QKeySequence::Open);
     m_recentMenu = new RecentMenu(this);
-    menu->addMenu(m_recentMenu);
-    m_partAction = new PartAction(*this, *menu, [this](std::unique_ptr<PlotSource> source, QString& error) {
-        return present(std::move(source), error);
-    });
+    m_fileMenu->addMenu(m_recentMenu);
+    m_partAction =
+        new PartAction(*this, *m_fileMenu, [this](std::unique_ptr<PlotSource> source, QString& error) {
+            return present(std::move(source), error);
+        });
     connect(m_recentMenu, &RecentMenu::chosen, this, &ViewerWindow::openFile);
-    menu->addSeparator();
+    m_fileMenu->addSeparator();
+}
+
+void ViewerWindow::createEditMenu()
+{
     m_editMenu = menuBar()->addMenu(tr("&Edit"));
-    m_pictures = new PictureActions(*this, *menu, *m_editMenu);
-    menu->addSeparator();
-    m_closeAction = menu->addAction(tr("&Close plot"), this, &ViewerWindow::closePlot,
-                                    QKeySequence(Qt::CTRL + Qt::Key_W));
-    menu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence(Qt::CTRL + Qt::Key_Q));
+    m_editMenu->addActions({m_history.undoAction(), m_history.redoAction()});
+    m_editMenu->addSeparator();
+    m_pictures = new PictureActions(*this, *m_fileMenu, *m_editMenu);
 }
 
 QMenu* ViewerWindow::createNewMenu()
@@ -167,21 +204,37 @@ QMenu* ViewerWindow::createNewMenu()
 void ViewerWindow::createViewMenu()
 {
     m_viewMenu = menuBar()->addMenu(tr("&View"));
-    const auto addSwitch = [this](const QString& text) {
+    const auto addSwitch = [this](const QString& text, const QKeySequence& shortcut) {
         QAction* action = m_viewMenu->addAction(text);
         action->setCheckable(true);
+        action->setShortcut(shortcut);
         return action;
     };
-    m_statusAction = addSwitch(tr("&Status bar"));
+    m_statusAction = addSwitch(tr("&Status bar"), {});
     connect(m_statusAction, &QAction::triggered, this, [this](bool on) { statusBar()->setVisible(on); });
-    m_fullScreenAction = addSwitch(tr("F&ull screen"));
-    m_fullScreenAction->setShortcut(QKeySequence(Qt::Key_F11));
+    m_fullScreenAction = addSwitch(tr("F&ull screen"), Qt::Key_F11);
     m_fullScreenAction->setIcon(icon("fullscreen"));
     connect(m_fullScreenAction, &QAction::triggered, this, &ViewerWindow::showFullScreen);
     m_viewMenu->addSeparator();
+    m_linkAction = addSwitch(tr("&Link views"), Qt::CTRL + Qt::SHIFT + Qt::Key_L);
+    m_linkAction->setStatusTip(tr("Turn, zoom and shift all plots together"));
+    connect(m_linkAction, &QAction::triggered, this, &ViewerWindow::linkViews);
+    // Where it is seen, too, that plots are linked.
+    auto* link = new QToolButton;
+    link->setAutoRaise(true);
+    link->setFocusPolicy(Qt::NoFocus);
+    link->setDefaultAction(m_linkAction);
+    link->setVisible(false);
+    menuBar()->setCornerWidget(link);
+    connect(m_tabs, &PlotTabs::arranged, link, [this, link] {
+        link->setVisible(m_tabs->pages().size() > 1);
+        menuBar()->adjustSize();
+    });
+    m_tabActions->fillViewMenu(*m_viewMenu);
+    m_viewMenu->addSeparator();
     m_data = new DataActions(*this, *m_editMenu, *m_viewMenu,
                              {[this](std::unique_ptr<PlotSource> source) { showPlot(std::move(source)); },
-                              [this](const QString& path) { openFile(path); }});
+                              [this](const QStringList& paths) { openFiles(paths); }});
     m_viewMenu->addSeparator();
     m_viewMenu->addAction(m_bindings->action());
 }
@@ -191,41 +244,54 @@ void ViewerWindow::showFullScreen(bool on)
     setWindowState(windowState().setFlag(Qt::WindowFullScreen, on));
 }
 
-void ViewerWindow::removePage()
+void ViewerWindow::showPage(PlotPage* page)
 {
     takeFromPage();
-    m_data->setPage(nullptr);
+    const LayoutPause pause(*this);
     m_host.reset();
-    m_page.reset();
-    m_plotMenu->menuAction()->setEnabled(false);
-    m_pictures->setPage(nullptr);
-    m_partAction->setPage(nullptr);
-    m_closeAction->setEnabled(false);
-    m_statusAction->setEnabled(false);
-    setWindowTitle(tr("voranview"));
+    m_page = page;
+    m_history.setCurrent(page != nullptr ? &page->view() : nullptr);
+    m_pictures->setPage(page);
+    m_partAction->setPage(page);
+    m_plotMenu->menuAction()->setEnabled(page != nullptr);
+    m_statusAction->setEnabled(page != nullptr);
+    m_linkAction->setEnabled(page != nullptr);
+    setWindowTitle(page != nullptr ? tr("%1 - voranview").arg(page->source().name()) : tr("voranview"));
+    if (page == nullptr) {
+        m_data->setPage(nullptr);
+        return;
+    }
+    m_host = std::make_unique<PlotHost>(*this, *page, *m_plotMenu, *m_viewMenu, m_statusAction);
+    m_data->setPage(page);
+    restoreState(m_barState);
+    page->setFocus();
 }
 
-void ViewerWindow::placePage(std::unique_ptr<PlotPage> page)
+void ViewerWindow::addPage(std::unique_ptr<PlotPage> page)
 {
-    removePage();
-    m_page = std::move(page);
-    m_preferences.applyTo(m_page->view());
-    m_page->view().setSubject(subjectOf(m_page->source()));
-    m_page->view().restoreKept();
-    m_bindings->attach(&m_page->plot());
-    m_stack->addWidget(m_page.get());
-    m_host = std::make_unique<PlotHost>(*this, *m_page, *m_plotMenu, *m_viewMenu, m_statusAction);
-    restoreState(m_barState);
-    statusBar()->setVisible(m_statusAction->isChecked());
-    m_plotMenu->menuAction()->setEnabled(true);
-    m_pictures->setPage(m_page.get());
-    m_partAction->setPage(m_page.get());
-    m_data->setPage(m_page.get());
-    m_closeAction->setEnabled(true);
-    m_statusAction->setEnabled(true);
-    setWindowTitle(tr("%1 - voranview").arg(m_page->source().name()));
-    m_stack->setCurrentWidget(m_page.get());
-    m_page->setFocus();
+    takeFromPage();
+    PlotView& view = page->view();
+    m_preferences.applyTo(view);
+    view.setSubject(subjectOf(page->source()));
+    view.restoreKept();
+    m_bindings->attach(&page->plot());
+    m_tabs->add(std::move(page));
+    // Taking over the view of linked plots is nothing to take back.
+    m_link.add(view);
+    m_history.add(view);
+    m_history.setCurrent(&view);
+}
+
+void ViewerWindow::letGo(PlotPage& page)
+{
+    keep(page);
+    m_link.remove(page.view());
+    m_history.remove(page.view());
+}
+
+void ViewerWindow::linkViews(bool on)
+{
+    m_link.setOn(on, m_page->view());
 }
 
 bool ViewerWindow::present(std::unique_ptr<PlotSource> source, QString& error)
@@ -234,7 +300,7 @@ bool ViewerWindow::present(std::unique_ptr<PlotSource> source, QString& error)
     if (m_loading)
         return false;
     const WaitCursor waiting;
-    ProgressBox progress(tr("Open"), *this, m_page.get());
+    ProgressBox progress(tr("Open"), *this, m_page);
     const QScopedValueRollback<ProgressBox*> loading(m_loading, &progress);
     std::unique_ptr<PlotView> view = source->open(progress.loadProgress(source->name()));
     if (!view) {
@@ -242,7 +308,7 @@ bool ViewerWindow::present(std::unique_ptr<PlotSource> source, QString& error)
         return false;
     }
     const QString file = source->filePath();
-    placePage(std::make_unique<PlotPage>(std::move(source), std::move(view)));
+    addPage(std::make_unique<PlotPage>(std::move(source), std::move(view)));
     // Some names of grids inside files are no paths.
     if (QFileInfo::exists(file))
         RecentFiles::add(file);
@@ -257,12 +323,25 @@ bool ViewerWindow::open(const QString& path, int band, QString& error)
 
 void ViewerWindow::openFile(const QString& path)
 {
-    QString error;
-    if (open(path, 1, error) || error.isEmpty())
-        return;
-    if (!QFileInfo::exists(path))
-        RecentFiles::remove(path);
-    QMessageBox::warning(this, tr("Open"), error);
+    openFiles({path});
+}
+
+void ViewerWindow::openFiles(const QStringList& paths)
+{
+    QStringList problems;
+    for (const QString& path : paths) {
+        QString error;
+        if (open(path, 1, error))
+            continue;
+        // Cancelled, and with it those that would follow.
+        if (error.isEmpty())
+            break;
+        problems.append(error);
+        if (!QFileInfo::exists(path))
+            RecentFiles::remove(path);
+    }
+    if (!problems.isEmpty())
+        QMessageBox::warning(this, tr("Open"), problems.join('\n'));
 }
 
 void ViewerWindow::showPlot(std::unique_ptr<PlotSource> source)
@@ -274,8 +353,8 @@ void ViewerWindow::showPlot(std::unique_ptr<PlotSource> source)
 
 void ViewerWindow::closePlot()
 {
-    removePage();
-    m_stack->setCurrentWidget(m_startPage);
+    if (m_page)
+        m_tabs->close(*m_page);
 }
 
 void ViewerWindow::chooseFile()
@@ -286,13 +365,13 @@ void ViewerWindow::chooseFile()
         tr("Spectra (*.csv *.tsv *.txt *.dat)"),
         tr("Meshes (*.off *.obj *.ply *.stl *.3ds *.dae *.gltf *.glb *.fbx *.x3d)")};
     QSettings settings;
-    const QString path =
-        QFileDialog::getOpenFileName(this, tr("Open"), settings.value(folderKey).toString(),
-                                     QStringList(std::begin(filters), std::end(filters)).join(";;"));
-    if (path.isEmpty())
+    const QStringList paths =
+        QFileDialog::getOpenFileNames(this, tr("Open"), settings.value(folderKey).toString(),
+                                      QStringList(std::begin(filters), std::end(filters)).join(";;"));
+    if (paths.isEmpty())
         return;
-    settings.setValue(folderKey, QFileInfo(path).absolutePath());
-    openFile(path);
+    settings.setValue(folderKey, QFileInfo(paths.first()).absolutePath());
+    openFiles(paths);
 }
 
 void ViewerWindow::askFormula()

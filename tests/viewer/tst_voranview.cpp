@@ -146,7 +146,13 @@ void TestVoranview::refusalsAreOneSentence_data()
     QTest::newRow("size without form") << QStringList{"--size", "800", example} << Screen::None << "\"800\"";
     QTest::newRow("band") << QStringList{"--band", "0", example} << Screen::None << "\"0\"";
     QTest::newRow("unknown option") << QStringList{"--fast"} << Screen::None << "fast";
-    QTest::newRow("two files") << QStringList{"a.asc", "b.asc"} << Screen::None << "Only one file";
+    QTest::newRow("picture of two files") << QStringList{example, examples + "bunny.off", "--png", picture}
+                                          << Screen::None << "but 2 are named";
+    QTest::newRow("style of one kind for two")
+        << QStringList{example, examples + "gasoline_nir.csv", "--style", "mesh"} << Screen::None
+        << "Spectra have no plot style \"mesh\"";
+    QTest::newRow("mesh among logarithmic files")
+        << QStringList{example, examples + "bunny.off", "--log", "z"} << Screen::None << "a mesh is named";
     QTest::newRow("picture of nothing")
         << QStringList{"--png", picture} << Screen::None << "needs a file or a formula";
     const auto refusal = [](const char* name, const QStringList& arguments, const QString& words) {
