@@ -7,6 +7,7 @@
 #include "plotpage.h"
 #include "plots/baseplot.h"
 #include "templateoption.h"
+#include "viewerlanguage.h"
 #include "viewerwindow.h"
 
 #include <QApplication>
@@ -145,6 +146,7 @@ int main(int argc, char* argv[])
     CommandLine wanted;
     {
         const QCoreApplication application(argc, argv);
+        ViewerLanguage::showEnvironment();
         const CommandLine::Outcome outcome = wanted.parse(QCoreApplication::arguments());
         if (outcome == CommandLine::Refuse)
             return refuse(wanted.text());
@@ -163,5 +165,10 @@ int main(int argc, char* argv[])
     const QString lacking = Display::openingDone();
     if (!lacking.isEmpty())
         return refuse(lacking);
-    return wanted.pictures().isEmpty() ? showWindow(wanted) : takePictures(wanted);
+    if (!wanted.pictures().isEmpty()) {
+        ViewerLanguage::showEnvironment();
+        return takePictures(wanted);
+    }
+    ViewerLanguage::showPreferred();
+    return showWindow(wanted);
 }

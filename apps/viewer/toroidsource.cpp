@@ -22,6 +22,6 @@ std::unique_ptr<PlotView> ToroidSource::read()
     auto plot = std::make_unique<ViewerPlot>();
     if (!plot->load(toroid))
         return failToDraw();
-    setDescription(tr("%1 x %2 nodes").arg(around).arg(across));
+    setDescription(tr("%L1 x %L2 nodes").arg(around).arg(across));
     return plot;
 }

@@ -7,6 +7,7 @@
 #include "plothost.h"
 #include "plotpage.h"
 #include "plots/baseplot.h"
+#include "preferencesdialog.h"
 #include "recentfiles.h"
 #include "recentmenu.h"
 #include "startpage.h"
@@ -137,7 +138,11 @@ void ViewerWindow::createFileMenu()
     menu->addMenu(m_recentMenu);
     connect(m_recentMenu, &RecentMenu::chosen, this, &ViewerWindow::openFile);
     menu->addSeparator();
-    m_pictures = new PictureActions(*this, *menu, *menuBar()->addMenu(tr("&Edit")));
+    QMenu* edit = menuBar()->addMenu(tr("&Edit"));
+    m_pictures = new PictureActions(*this, *menu, *edit);
+    edit->addSeparator();
+    edit->addAction(tr("Pr&eferences..."), this, &ViewerWindow::editPreferences)
+        ->setStatusTip(tr("Language, look of new plots, size of grids"));
     menu->addSeparator();
     m_closeAction = menu->addAction(tr("&Close plot"), this, &ViewerWindow::closePlot,
                                     QKeySequence(Qt::CTRL + Qt::Key_W));
@@ -284,6 +289,14 @@ void ViewerWindow::askFormula()
     FormulaDialog dialog(this);
     if (dialog.exec() == QDialog::Accepted)
         showPlot(std::make_unique<FormulaSource>(dialog.formula(), dialog.area()));
+}
+
+void ViewerWindow::editPreferences()
+{
+    PreferencesDialog dialog(this);
+    connect(&dialog, &PreferencesDialog::lookChosen, this,
+            [this](const QString& name) { m_preferences.takeLook(name); });
+    dialog.exec();
 }
 
 void ViewerWindow::fitPlot(const QSize& size)

@@ -32,11 +32,12 @@ void setText(QLabel* label, const QString& text)
 PlotStatusBar::PlotStatusBar(BasePlot* plotShown, QWidget* parent)
     : QStatusBar(parent),
       plot(plotShown),
-      rotationLabel(addLabel(tr("Rotation: [X;Y;Z]"))),
-      viewportShiftLabel(addLabel(tr("Viewport shift: [X;Y]"))),
-      scaleLabel(addLabel(tr("Scale: [X;Y;Z]"))),
-      zoomLabel(addLabel(tr("Zoom")))
+      rotationLabel(addLabel()),
+      viewportShiftLabel(addLabel()),
+      scaleLabel(addLabel()),
+      zoomLabel(addLabel())
 {
+    nameLabels();
     initByDefaultSettings();
     connectAll();
 }
@@ -46,13 +47,34 @@ BasePlot* PlotStatusBar::getPlot() const
     return plot;
 }
 
-QLabel* PlotStatusBar::addLabel(const QString& toolTip)
+QLabel* PlotStatusBar::addLabel()
 {
     auto* label = new QLabel(this);
-    label->setToolTip(toolTip);
-    label->setAccessibleName(toolTip);
     addPermanentWidget(label);
     return label;
+}
+
+void PlotStatusBar::nameLabels()
+{
+    const auto name = [](QLabel* label, const QString& text) {
+        if (!label)
+            return;
+        label->setToolTip(text);
+        label->setAccessibleName(text);
+    };
+    name(rotationLabel, tr("Rotation: [X;Y;Z]"));
+    name(viewportShiftLabel, tr("Viewport shift: [X;Y]"));
+    name(scaleLabel, tr("Scale: [X;Y;Z]"));
+    name(zoomLabel, tr("Zoom"));
+}
+
+void PlotStatusBar::changeEvent(QEvent* event)
+{
+    QStatusBar::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange)
+        return;
+    nameLabels();
+    initByDefaultSettings();
 }
 
 void PlotStatusBar::initByDefaultSettings()
