@@ -723,10 +723,6 @@
         <translation>Simulation</translation>
     </message>
     <message>
-        <source>&amp;Reset view</source>
-        <translation>Ansicht &amp;zurücksetzen</translation>
-    </message>
-    <message>
         <source>Rotation, shift and zoom of the start</source>
         <translation>Drehung, Verschiebung und Zoom vom Anfang</translation>
     </message>
@@ -735,7 +731,11 @@
         <translation>&amp;Gitterebenen</translation>
     </message>
     <message>
-        <source>Tool &amp;bars</source>
+        <source>R&amp;eset view</source>
+        <translation>Ansicht &amp;zurücksetzen</translation>
+    </message>
+    <message>
+        <source>T&amp;ool bars</source>
         <translation>&amp;Werkzeugleisten</translation>
     </message>
 </context>

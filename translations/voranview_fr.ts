@@ -723,10 +723,6 @@
         <translation>Simulation</translation>
     </message>
     <message>
-        <source>&amp;Reset view</source>
-        <translation>&amp;Réinitialiser la vue</translation>
-    </message>
-    <message>
         <source>Rotation, shift and zoom of the start</source>
         <translation>Rotation, déplacement et zoom du début</translation>
     </message>
@@ -735,7 +731,11 @@
         <translation>Plans de la gri&amp;lle</translation>
     </message>
     <message>
-        <source>Tool &amp;bars</source>
+        <source>R&amp;eset view</source>
+        <translation>&amp;Réinitialiser la vue</translation>
+    </message>
+    <message>
+        <source>T&amp;ool bars</source>
         <translation>Barres d’ou&amp;tils</translation>
     </message>
 </context>

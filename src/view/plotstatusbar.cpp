@@ -82,10 +82,12 @@ void PlotStatusBar::initByDefaultSettings()
     if (!plot)
         return;
     const ValueXYZ<double>& rotation = plot->getRotation();
-    setText(rotationLabel, filled(tr("Rotation: %0; %1; %2"), rotation.x, rotation.y, rotation.z));
+    setText(rotationLabel, filled(turned ? tr("Turn: %0; %1; %2") : tr("Rotation: %0; %1; %2"), rotation.x,
+                                  rotation.y, rotation.z));
     slotViewportShiftChanged(plot->getViewportShift().x, plot->getViewportShift().y);
     const ValueXYZ<double>& scale = plot->getScale();
-    setText(scaleLabel, filled(tr("Scale: %0; %1; %2"), scale.x, scale.y, scale.z, fewDigits));
+    setText(scaleLabel, filled(scaled ? tr("Scaling: %0; %1; %2") : tr("Scale: %0; %1; %2"), scale.x, scale.y,
+                               scale.z, fewDigits));
     slotZoomChanged(plot->getZoom());
 }
 
@@ -119,6 +121,7 @@ void PlotStatusBar::resizeEvent(QResizeEvent* event)
 
 void PlotStatusBar::slotRotationChanged(double x, double y, double z)
 {
+    turned = true;
     setText(rotationLabel, filled(tr("Turn: %0; %1; %2"), x, y, z));
 }
 
@@ -130,6 +133,7 @@ void PlotStatusBar::slotViewportShiftChanged(double x, double y)
 
 void PlotStatusBar::slotScaleChanged(double x, double y, double z)
 {
+    scaled = true;
     setText(scaleLabel, filled(tr("Scaling: %0; %1; %2"), x, y, z, fewDigits));
 }
 

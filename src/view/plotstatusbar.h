@@ -58,6 +58,8 @@ private:
     QPointer<QLabel> viewportShiftLabel;
     QPointer<QLabel> scaleLabel;
     QPointer<QLabel> zoomLabel;
+    bool turned = false;
+    bool scaled = false;
 };
 
 } // namespace Zel3D
