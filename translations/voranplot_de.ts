@@ -43,6 +43,21 @@
     </message>
 </context>
 <context>
+    <name>GradientName</name>
+    <message>
+        <source>Greys</source>
+        <translation>Grau</translation>
+    </message>
+    <message>
+        <source>Cool-warm</source>
+        <translation>Kalt-warm</translation>
+    </message>
+    <message>
+        <source>Blue to yellow</source>
+        <translation>Blau nach Gelb</translation>
+    </message>
+</context>
+<context>
     <name>Look</name>
     <message>
         <source>Light</source>

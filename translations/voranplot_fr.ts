@@ -43,6 +43,21 @@
     </message>
 </context>
 <context>
+    <name>GradientName</name>
+    <message>
+        <source>Greys</source>
+        <translation>Gris</translation>
+    </message>
+    <message>
+        <source>Cool-warm</source>
+        <translation>Froid-chaud</translation>
+    </message>
+    <message>
+        <source>Blue to yellow</source>
+        <translation>Bleu à jaune</translation>
+    </message>
+</context>
+<context>
     <name>Look</name>
     <message>
         <source>Light</source>
@@ -2171,7 +2186,7 @@ Inser ajoute, Suppr supprime, Entrée choisit la couleur.</translation>
     </message>
     <message>
         <source>Constant</source>
-        <translation>Constante</translation>
+        <translation>Fixe</translation>
     </message>
     <message>
         <source>Linear</source>
@@ -2179,7 +2194,7 @@ Inser ajoute, Suppr supprime, Entrée choisit la couleur.</translation>
     </message>
     <message>
         <source>Quadratic</source>
-        <translation>Quadratique</translation>
+        <translation>Carrée</translation>
     </message>
     <message>
         <source>Concentration</source>

@@ -387,6 +387,17 @@
     </message>
 </context>
 <context>
+    <name>GradientName</name>
+    <message>
+        <source>Terrain</source>
+        <translation>Gelände</translation>
+    </message>
+    <message>
+        <source>Water</source>
+        <translation>Wasser</translation>
+    </message>
+</context>
+<context>
     <name>GridFile</name>
     <message>
         <source>No file is named.</source>
@@ -498,10 +509,6 @@
     <message>
         <source>%1, %L2 missing</source>
         <translation>%1, %L2 fehlen</translation>
-    </message>
-    <message>
-        <source>Terrain</source>
-        <translation>Gelände</translation>
     </message>
 </context>
 <context>
@@ -1258,10 +1265,6 @@
     <message>
         <source>Water surface</source>
         <translation>Wasseroberfläche</translation>
-    </message>
-    <message>
-        <source>Water</source>
-        <translation>Wasser</translation>
     </message>
     <message>
         <source>x</source>

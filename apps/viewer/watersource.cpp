@@ -30,7 +30,7 @@ std::unique_ptr<PlotView> WaterSource::read()
 {
     auto plot = std::make_unique<ViewerPlot>();
     plot->setRelief(waterRelief);
-    plot->setDataGradient(tr("Water"), waterGradient());
+    plot->setDataGradient(QT_TRANSLATE_NOOP("GradientName", "Water"), waterGradient());
     m_simulation = std::make_unique<WaterSimulation>(*plot);
     if (!m_simulation->fill())
         return failToDraw();

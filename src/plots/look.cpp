@@ -58,7 +58,7 @@ Look Look::light()
     look.titleFont = QFont("Sans Serif", 13, QFont::DemiBold);
     look.nameFont = QFont("Sans Serif", 10);
     look.numberFont = QFont("Sans Serif", 9);
-    look.gradientName = "Blue to yellow";
+    look.gradientName = QT_TRANSLATE_NOOP("GradientName", "Blue to yellow");
     look.gradient = blueToYellow();
     return look;
 }
