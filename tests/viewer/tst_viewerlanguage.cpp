@@ -1,11 +1,17 @@
 // The window speaks the person's language, at once and without losing what it shows.
 
+#include "formuladialog.h"
+#include "gradients/gradienteditdialog.h"
+#include "gradients/gradientlistdialog.h"
+#include "gradients/gradientmanager.h"
 #include "harness/harness.h"
 #include "memoryneed.h"
 #include "plotpage.h"
 #include "plots/baseplot.h"
 #include "preferencesdialog.h"
 #include "scene/title.h"
+#include "settings/bindingsdialog.h"
+#include "settings/plotsettingsdialog.h"
 #include "toroidsource.h"
 #include "viewerlanguage.h"
 #include "viewerpreferences.h"
@@ -20,6 +26,7 @@
 #include <QRegularExpression>
 #include <QSettings>
 #include <QToolBar>
+#include <QTranslator>
 #include <QtTest>
 
 #include <memory>
@@ -41,8 +48,8 @@ QStringList texts(const QWidget& window)
         const auto* action = qobject_cast<const QAction*>(part);
         if (!action && !part->isWidgetType())
             continue;
-        for (const char* property :
-             {"text", "title", "windowTitle", "toolTip", "statusTip", "iconText", "description"}) {
+        for (const char* property : {"text", "title", "windowTitle", "toolTip", "statusTip", "iconText",
+                                     "description", "currentText"}) {
             const QString text = part->property(property).toString();
             if (!text.isEmpty())
                 found.append(QString("%1: %2").arg(QLatin1String(property), text));
@@ -79,6 +86,35 @@ QStringList clashes(const QMenu& menu)
     return found;
 }
 
+/// A language in which every text stands between brackets.
+class Foreign : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char*, const char* source, const char*, int) const override
+    {
+        return QString("[%1]").arg(QString::fromUtf8(source));
+    }
+};
+
+/// The words on a window that were not translated.
+QStringList untranslated(const QWidget& window)
+{
+    // Numbers, the letters of axes, the names of a font and of a language, a formula, the
+    // authors of published tables.
+    static const QRegularExpression noWords(
+        "^\\w+: (\\P{L}*|[XYZxyz]|Sans Serif|English|sin\\(x\\)\\*cos\\(y\\)|.+\n.+)$",
+        QRegularExpression::UseUnicodePropertiesOption);
+    QStringList found;
+    const QStringList all = texts(window);
+    for (const QString& text : all) {
+        if (!text.contains('[') && !noWords.match(text).hasMatch())
+            found.append(text);
+    }
+    found.removeDuplicates();
+    return found;
+}
+
 } // namespace
 
 class TestViewerLanguage : public QObject
@@ -89,6 +125,7 @@ private slots:
     void cleanup();
     void windowFollowsTheLanguage();
     void languageBeforeTheWindow();
+    void everyTextCanBeTranslated();
     void noMenuHasALetterTwice_data();
     void noMenuHasALetterTwice();
     void numbersFollowTheLanguage();
@@ -176,6 +213,31 @@ void TestViewerLanguage::languageBeforeTheWindow()
     for (const QPushButton* button : m_window->findChildren<QPushButton*>())
         buttons.append(button->text());
     QVERIFY(buttons.contains("Datei &öffnen..."));
+}
+
+void TestViewerLanguage::everyTextCanBeTranslated()
+{
+    Foreign foreign;
+    QCoreApplication::installTranslator(&foreign);
+    showToroid();
+    Zel3D::BasePlot& plot = m_window->page()->plot();
+    QCOMPARE(untranslated(*m_window).join('\n'), QString());
+    QCOMPARE(untranslated(*plot.getContextMenu()).join('\n'), QString());
+    {
+        const Zel3D::PlotSettingsDialog settings(nullptr, "voran-test", "voran-test", &plot, nullptr);
+        QCOMPARE(untranslated(settings).join('\n'), QString());
+    }
+    const Zel3D::BindingsDialog bindings(Zel3D::PlotBindings{}, nullptr);
+    QCOMPARE(untranslated(bindings).join('\n'), QString());
+    GradientManager store(nullptr, QLinearGradient());
+    const Zel3D::GradientListDialog gradients(&store);
+    QCOMPARE(untranslated(gradients).join('\n'), QString());
+    const Zel3D::GradientEditDialog gradient;
+    QCOMPARE(untranslated(gradient).join('\n'), QString());
+    const FormulaDialog formula;
+    QCOMPARE(untranslated(formula).join('\n'), QString());
+    const PreferencesDialog preferences;
+    QCOMPARE(untranslated(preferences).join('\n'), QString());
 }
 
 void TestViewerLanguage::noMenuHasALetterTwice_data()
