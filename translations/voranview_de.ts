@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Show these directions logarithmically, such as x,z. Values at or below zero are missing then.</source>
-        <translation>Diese Richtungen logarithmisch zeigen, etwa x,z. Werte bis null fehlen dann.</translation>
+        <translation>Diese Richtungen logarithmisch zeigen, etwa x,z. Werte kleiner oder gleich null fehlen dann.</translation>
     </message>
     <message>
         <source>Band of a grid file to show, from 1.</source>

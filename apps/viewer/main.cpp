@@ -14,6 +14,7 @@
 #include <QLoggingCategory>
 
 #include <cstdio>
+#include <optional>
 
 namespace {
 
@@ -143,18 +144,21 @@ int main(int argc, char* argv[])
 {
     describeApplication();
     silenceDebugMessages();
-    CommandLine wanted;
+    std::optional<CommandLine> given;
     {
         const QCoreApplication application(argc, argv);
         ViewerLanguage::showEnvironment();
-        const CommandLine::Outcome outcome = wanted.parse(QCoreApplication::arguments());
+        // Its texts are in the language of when it is made.
+        CommandLine& line = given.emplace();
+        const CommandLine::Outcome outcome = line.parse(QCoreApplication::arguments());
         if (outcome == CommandLine::Refuse)
-            return refuse(wanted.text());
+            return refuse(line.text());
         if (outcome == CommandLine::Inform) {
-            std::printf("%s\n", qPrintable(wanted.text()));
+            std::printf("%s\n", qPrintable(line.text()));
             return EXIT_SUCCESS;
         }
     }
+    const CommandLine& wanted = *given;
     const QString problem = Display::problem();
     if (!problem.isEmpty())
         return refuse(problem);
