@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QListWidget>
 #include <QTabBar>
 #include <QVariant>
 #include <QWidget>
@@ -87,26 +88,38 @@ void LiveTexts::remember()
     }
 }
 
-QString LiveTexts::newWords(const QString& old, const QObject& object) const
+LiveTexts::Text LiveTexts::textOf(const QString& words, const QObject& object) const
 {
-    const QList<Text> texts = m_old.value(old);
-    if (texts.isEmpty())
-        return old;
+    const QList<Text> texts = m_old.value(words);
     for (const Text& text : texts) {
         if (isWithin(object, text.context.constData()))
-            return wordsOf(text);
+            return text;
     }
-    return wordsOf(texts.first());
+    return texts.value(0);
+}
+
+QString LiveTexts::newWords(const QString& old, const QObject& object) const
+{
+    const Text text = textOf(old, object);
+    return text.source.isEmpty() ? old : wordsOf(text);
 }
 
 void LiveTexts::replaceProperty(QObject& object, const char* property) const
 {
-    const QVariant value = object.property(property);
-    if (value.type() != QVariant::String || value.toString().isEmpty())
+    const QString old = object.property(property).toString();
+    if (old.isEmpty())
         return;
-    const QString words = newWords(value.toString(), object);
-    if (words != value.toString())
-        object.setProperty(property, words);
+    // Two texts may be the same words in one language, so it is kept which one this is.
+    const QByteArray key = QByteArray("voran_text_") + property;
+    auto known = object.property(key).value<Known>();
+    if (known.words != old)
+        known.text = textOf(old, object);
+    if (known.text.source.isEmpty())
+        return;
+    known.words = wordsOf(known.text);
+    if (known.words != old)
+        object.setProperty(property, known.words);
+    object.setProperty(key, QVariant::fromValue(known));
 }
 
 void LiveTexts::replaceOn(QAction& action) const
@@ -126,6 +139,10 @@ void LiveTexts::replaceItems(QWidget& widget) const
     if (auto* box = qobject_cast<QComboBox*>(&widget)) {
         for (int i = 0; i < box->count(); ++i)
             box->setItemText(i, newWords(box->itemText(i), widget));
+    }
+    if (auto* list = qobject_cast<QListWidget*>(&widget)) {
+        for (int i = 0; i < list->count(); ++i)
+            list->item(i)->setText(newWords(list->item(i)->text(), widget));
     }
     if (auto* tabs = qobject_cast<QTabBar*>(&widget)) {
         for (int i = 0; i < tabs->count(); ++i)

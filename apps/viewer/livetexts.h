@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QHash>
+#include <QMetaType>
 #include <QMutex>
 #include <QSet>
 #include <QString>
@@ -18,6 +19,22 @@ class QWidget;
 class LiveTexts : public QTranslator
 {
 public:
+    /// As it stands in the sources.
+    struct Text
+    {
+        QByteArray context;
+        QByteArray source;
+        QByteArray comment;
+        bool operator==(const Text& other) const;
+        friend uint qHash(const Text& text, uint seed) { return qHash(text.source, seed); }
+    };
+    /// What an object shows, kept on it.
+    struct Known
+    {
+        QString words;
+        Text text;
+    };
+
     /// Takes note from now on. Call it again after translators were installed, so that it is asked first.
     void listen();
     /// Before the language changes: what the texts are in the old one.
@@ -29,17 +46,10 @@ public:
     QString translate(const char* context, const char* source, const char* comment, int n) const override;
 
 private:
-    struct Text
-    {
-        QByteArray context;
-        QByteArray source;
-        QByteArray comment;
-        bool operator==(const Text& other) const;
-        friend uint qHash(const Text& text, uint seed) { return qHash(text.source, seed); }
-    };
-
     static QString wordsOf(const Text& text);
-    /// The new words for old ones on an object; the old ones when it is not known whose they are.
+    /// The text whose old words are on an object; an empty one when there is none.
+    Text textOf(const QString& words, const QObject& object) const;
+    /// The new words for old ones on an object; the old ones when they are no text.
     QString newWords(const QString& old, const QObject& object) const;
     void replaceProperty(QObject& object, const char* property) const;
     void replaceOn(QAction& action) const;
@@ -50,3 +60,5 @@ private:
     mutable QSet<Text> m_asked;
     QHash<QString, QList<Text>> m_old;
 };
+
+Q_DECLARE_METATYPE(LiveTexts::Known)

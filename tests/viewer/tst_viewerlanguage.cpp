@@ -20,6 +20,7 @@
 #include <QAction>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
@@ -125,6 +126,7 @@ private slots:
     void cleanup();
     void windowFollowsTheLanguage();
     void languageBeforeTheWindow();
+    void openSettingsFollowTheLanguage();
     void everyTextCanBeTranslated();
     void noMenuHasALetterTwice_data();
     void noMenuHasALetterTwice();
@@ -213,6 +215,22 @@ void TestViewerLanguage::languageBeforeTheWindow()
     for (const QPushButton* button : m_window->findChildren<QPushButton*>())
         buttons.append(button->text());
     QVERIFY(buttons.contains("Datei &öffnen..."));
+}
+
+void TestViewerLanguage::openSettingsFollowTheLanguage()
+{
+    showToroid();
+    Zel3D::PlotSettingsDialog dialog(nullptr, "voran-test", "voran-test", &m_window->page()->plot(), nullptr);
+    dialog.setCurrentRow(0);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    const QStringList english = texts(dialog);
+    speak("de");
+    QCOMPARE(dialog.findChild<QListWidget*>("pages")->item(0)->text(), QString("Allgemein"));
+    QCOMPARE(texts(dialog).filter("text: Seitenverhältnis halten").size(), 1);
+    QCOMPARE(texts(dialog).filter("currentText: Orthogonal").size(), 1);
+    speak("en");
+    QCOMPARE(texts(dialog), english);
 }
 
 void TestViewerLanguage::everyTextCanBeTranslated()
