@@ -813,7 +813,7 @@
     </message>
     <message>
         <source>Plot style</source>
-        <translation>Style du graphique</translation>
+        <translation>Tracé</translation>
     </message>
 </context>
 <context>
@@ -2438,7 +2438,7 @@ Inser ajoute, Suppr supprime, Entrée choisit la couleur.</translation>
     </message>
     <message>
         <source>Plot style</source>
-        <translation>Style du graphique</translation>
+        <translation>Tracé</translation>
     </message>
 </context>
 <context>
