@@ -15,6 +15,11 @@ ToroidSource::ToroidSource()
     setName(tr("Toroid"));
 }
 
+QString ToroidSource::identity() const
+{
+    return QStringLiteral("Toroid");
+}
+
 std::unique_ptr<PlotView> ToroidSource::read()
 {
     Zel3D::Toroid toroid;

@@ -51,7 +51,7 @@ QString droppedFile(const QMimeData& data)
 QString subjectOf(const PlotSource& source)
 {
     const QString file = source.filePath();
-    return file.isEmpty() ? source.name() : QFileInfo(file).absoluteFilePath() + ' ' + source.name();
+    return file.isEmpty() ? source.identity() : QFileInfo(file).absoluteFilePath() + ' ' + source.name();
 }
 
 /// The waiting cursor while the object lives.

@@ -26,6 +26,11 @@ WaterSource::WaterSource()
 
 WaterSource::~WaterSource() = default;
 
+QString WaterSource::identity() const
+{
+    return QStringLiteral("Water surface");
+}
+
 std::unique_ptr<PlotView> WaterSource::read()
 {
     auto plot = std::make_unique<ViewerPlot>();

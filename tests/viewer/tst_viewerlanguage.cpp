@@ -149,6 +149,10 @@ void TestViewerLanguage::init()
 
 void TestViewerLanguage::cleanup()
 {
+    if (m_window && m_window->page()) {
+        const Zel3D::BasePlot& plot = m_window->page()->plot();
+        QSettings(plot.getOrganization(), plot.getApplication()).clear();
+    }
     m_window.reset();
     speak("en");
     harness::clearStore();
@@ -197,6 +201,14 @@ void TestViewerLanguage::windowFollowsTheLanguage()
     QCOMPARE(page->view().look().name, QString("Dark"));
     m_window->close();
     QCOMPARE(QSettings().value("window/look").toString(), QString("Dark"));
+    {
+        // What was kept in one language is found in another one.
+        ViewerWindow other;
+        QString error;
+        QVERIFY(other.present(std::make_unique<ToroidSource>(), error));
+        QCOMPARE(other.page()->source().name(), QString("Tore"));
+        QCOMPARE(other.page()->plot().getTitle().getSettings().getText(), QString("Points"));
+    }
     speak("en");
     QCOMPARE(texts(*m_window), english);
 }
