@@ -26,7 +26,6 @@ public:
         QByteArray source;
         QByteArray comment;
         bool operator==(const Text& other) const;
-        friend uint qHash(const Text& text, uint seed) { return qHash(text.source, seed); }
     };
     /// What an object shows, kept on it.
     struct Known
@@ -60,5 +59,10 @@ private:
     mutable QSet<Text> m_asked;
     QHash<QString, QList<Text>> m_old;
 };
+
+inline uint qHash(const LiveTexts::Text& text, uint seed)
+{
+    return qHash(text.source, seed);
+}
 
 Q_DECLARE_METATYPE(LiveTexts::Known)
