@@ -44,6 +44,8 @@ into the widget box of Qt Designer.")
 set(CPACK_DEBIAN_VIEWER_PACKAGE_NAME voranview)
 set(CPACK_DEBIAN_VIEWER_PACKAGE_SECTION science)
 set(CPACK_DEBIAN_VIEWER_PACKAGE_DEPENDS "${voran_same_library}")
+# The words of Qt's own dialogs in the person's language.
+set(CPACK_DEBIAN_VIEWER_PACKAGE_RECOMMENDS qttranslations5-l10n)
 set(CPACK_DEBIAN_VIEWER_DESCRIPTION "viewer for elevation grids, meshes and spectra
 Shows grids that GDAL reads, polygon meshes, tables of spectra and formulas
 as turnable 3-D plots.")

@@ -188,12 +188,12 @@ bool Formula::fill(Grid& grid, const LoadProgress& progress)
             const double height = value(x, y);
             grid.columnStarts[static_cast<std::size_t>(column)][row] = height;
             if (std::isnan(height) && first.isEmpty())
-                first = tr("x = %1, y = %2").arg(x).arg(y);
+                first = tr("x = %L1, y = %L2").arg(x).arg(y);
         }
     }
     grid.measure();
     if (!first.isEmpty())
-        m_notes.append(tr("The formula has no height at %1 of %2 nodes, the first at %3.")
+        m_notes.append(tr("The formula has no height at %L1 of %L2 nodes, the first at %3.")
                            .arg(grid.heights.size() - grid.validNodes)
                            .arg(grid.heights.size())
                            .arg(first));
@@ -225,7 +225,7 @@ bool Formula::read(Grid& grid, const FormulaArea& area, const LoadProgress& prog
         return fail(tr("\"%1\" has no height at any node.").arg(m_text));
     if (found.zMax - found.zMin > double(FLT_MAX))
         return fail(
-            tr("\"%1\" cannot be drawn: its heights span from %2 to %3, more than single precision holds.")
+            tr("\"%1\" cannot be drawn: its heights span from %L2 to %L3, more than single precision holds.")
                 .arg(m_text)
                 .arg(found.zMin)
                 .arg(found.zMax));

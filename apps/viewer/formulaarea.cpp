@@ -10,10 +10,10 @@
 
 namespace {
 
-QString tr(const char* text)
+struct Words
 {
-    return QCoreApplication::translate("FormulaArea", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(FormulaArea)
+};
 
 /// Reads "-3:3" or "-3..3" into the ends of a range.
 bool readEnds(const QString& text, double& lower, double& upper, QString& error)
@@ -21,14 +21,14 @@ bool readEnds(const QString& text, double& lower, double& upper, QString& error)
     const QStringList ends =
         text.split(text.contains(QLatin1Char(':')) ? QStringLiteral(":") : QStringLiteral(".."));
     if (ends.size() != 2) {
-        error = tr("\"%1\" is no range; expected two numbers, such as -3:3.").arg(text);
+        error = Words::tr("\"%1\" is no range; expected two numbers, such as -3:3.").arg(text);
         return false;
     }
     double found[2];
     for (int i = 0; i < 2; ++i) {
         const std::optional<double> value = Formula(ends[i]).constant();
         if (!value) {
-            error = tr("\"%1\" in the range \"%2\" is no number.").arg(ends[i], text);
+            error = Words::tr("\"%1\" in the range \"%2\" is no number.").arg(ends[i], text);
             return false;
         }
         found[i] = *value;
@@ -37,7 +37,8 @@ bool readEnds(const QString& text, double& lower, double& upper, QString& error)
     const float first = static_cast<float>(found[0]);
     const float last = static_cast<float>(found[1]);
     if (!std::isfinite(first) || !std::isfinite(last) || !(first < last)) {
-        error = tr("The range \"%1\" has no width; its first number must be less than its last.").arg(text);
+        error = Words::tr("The range \"%1\" has no width; its first number must be less than its last.")
+                    .arg(text);
         return false;
     }
     lower = found[0];
@@ -58,7 +59,7 @@ bool FormulaArea::setRange(const QString& text, QString& error)
         const QString ends = match.hasMatch() ? match.captured(2) : given.trimmed();
         const QString axis = match.hasMatch() ? match.captured(1) : axes.isEmpty() ? "x" : "y";
         if (axes.contains(axis) || parts.size() > 2) {
-            error = tr("\"%1\" is no range of x and y; expected the form -3:3,-2:2.").arg(text);
+            error = Words::tr("\"%1\" is no range of x and y; expected the form -3:3,-2:2.").arg(text);
             return false;
         }
         axes += axis;
@@ -82,8 +83,8 @@ bool FormulaArea::setMesh(const QString& text, QString& error)
     const int foundColumns = match.captured(1).toInt();
     const int foundRows = second.toInt();
     if (foundColumns < 2 || foundRows < 2) {
-        error =
-            tr("\"%1\" is no mesh; expected columns and rows, at least 2 each, such as 200x100.").arg(text);
+        error = Words::tr("\"%1\" is no mesh; expected columns and rows, at least 2 each, such as 200x100.")
+                    .arg(text);
         return false;
     }
     columns = foundColumns;

@@ -6,14 +6,14 @@
 
 namespace {
 
-QString tr(const char* text)
+struct Words
 {
-    return QCoreApplication::translate("GridSource", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(GridSource)
+};
 
 QString range(double lower, double upper)
 {
-    return tr("%1 to %2").arg(lower, 0, 'g', 6).arg(upper, 0, 'g', 6);
+    return Words::tr("%L1 to %L2").arg(lower, 0, 'g', 6).arg(upper, 0, 'g', 6);
 }
 
 } // namespace
@@ -27,12 +27,12 @@ double drawingSeconds(const Grid& grid)
 QString describeGrid(const Grid& grid)
 {
     QString text =
-        tr("%1 x %2 nodes, x %3, y %4, z %5")
+        Words::tr("%L1 x %L2 nodes, x %3, y %4, z %5")
             .arg(grid.columns)
             .arg(grid.rows)
             .arg(range(grid.xMin, grid.xMax), range(grid.yMin, grid.yMax), range(grid.zMin, grid.zMax));
     if (!grid.unit.isEmpty())
         text += ' ' + grid.unit;
     const std::size_t missing = grid.heights.size() - grid.validNodes;
-    return missing > 0 ? tr("%1, %2 missing").arg(text).arg(missing) : text;
+    return missing > 0 ? Words::tr("%1, %L2 missing").arg(text).arg(missing) : text;
 }

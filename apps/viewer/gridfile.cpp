@@ -244,7 +244,7 @@ bool GridFile::checkHeights(Grid& grid)
         return fail(tr("\"%1\" holds no heights: every node is missing.").arg(m_name));
     if (grid.zMax - grid.zMin > double(std::numeric_limits<float>::max()))
         return fail(
-            tr("\"%1\" cannot be drawn: its heights span from %2 to %3, more than single precision holds.")
+            tr("\"%1\" cannot be drawn: its heights span from %L2 to %L3, more than single precision holds.")
                 .arg(m_name)
                 .arg(grid.zMin)
                 .arg(grid.zMax));

@@ -72,7 +72,7 @@ std::unique_ptr<PlotView> GridSource::read(const LoadProgress& progress)
     plot->setRelief(terrainRelief);
     plot->lightAsMap();
     prepare(*plot);
-    plot->setDataGradient(tr("Terrain"), terrainGradient());
+    plot->setDataGradient(QT_TRANSLATE_NOOP("GradientName", "Terrain"), terrainGradient());
     if (!plot->load(grid))
         return failToDraw();
     setDescription(describeGrid(grid));

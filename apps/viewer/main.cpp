@@ -8,6 +8,7 @@
 #include "plots/baseplot.h"
 #include "progressline.h"
 #include "templateoption.h"
+#include "viewerlanguage.h"
 #include "viewerwindow.h"
 
 #include <QApplication>
@@ -15,6 +16,7 @@
 
 #include <csignal>
 #include <cstdio>
+#include <optional>
 #include <vector>
 
 namespace {
@@ -194,17 +196,21 @@ int main(int argc, char* argv[])
 {
     describeApplication();
     silenceDebugMessages();
-    CommandLine wanted;
+    std::optional<CommandLine> given;
     {
         const QCoreApplication application(argc, argv);
-        const CommandLine::Outcome outcome = wanted.parse(QCoreApplication::arguments());
+        ViewerLanguage::showEnvironment();
+        // Its texts are in the language of when it is made.
+        CommandLine& line = given.emplace();
+        const CommandLine::Outcome outcome = line.parse(QCoreApplication::arguments());
         if (outcome == CommandLine::Refuse)
-            return refuse(wanted.text());
+            return refuse(line.text());
         if (outcome == CommandLine::Inform) {
-            std::printf("%s\n", qPrintable(wanted.text()));
+            std::printf("%s\n", qPrintable(line.text()));
             return EXIT_SUCCESS;
         }
     }
+    const CommandLine& wanted = *given;
     const QString problem = Display::problem();
     if (!problem.isEmpty())
         return refuse(problem);
@@ -215,5 +221,10 @@ int main(int argc, char* argv[])
     const QString lacking = Display::openingDone();
     if (!lacking.isEmpty())
         return refuse(lacking);
-    return wanted.pictures().isEmpty() ? showWindow(wanted) : takePictures(wanted);
+    if (!wanted.pictures().isEmpty()) {
+        ViewerLanguage::showEnvironment();
+        return takePictures(wanted);
+    }
+    ViewerLanguage::showPreferred();
+    return showWindow(wanted);
 }

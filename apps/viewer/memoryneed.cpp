@@ -26,7 +26,7 @@ bool MemoryNeed::fits(double freeBytes) const
 
 QString MemoryNeed::text() const
 {
-    return QCoreApplication::translate("MemoryNeed", "%1 of memory for %2 x %3 nodes")
+    return QCoreApplication::translate("MemoryNeed", "%1 of memory for %L2 x %L3 nodes")
         .arg(gigabytes(bytes()))
         .arg(m_columns)
         .arg(m_rows);
@@ -51,5 +51,5 @@ std::optional<double> MemoryNeed::freeBytes()
 
 QString MemoryNeed::gigabytes(double bytes)
 {
-    return QCoreApplication::translate("MemoryNeed", "%1 GB").arg(bytes / 1e9, 0, 'f', 1);
+    return QCoreApplication::translate("MemoryNeed", "%L1 GB").arg(bytes / 1e9, 0, 'f', 1);
 }

@@ -168,13 +168,13 @@ Mesh MeshMerger::finish()
     m_mesh.vertices = vertices;
     m_mesh.colors = colors;
     if (m_flat > 0)
-        m_mesh.notes.append(tr("Faces without area left out: %1.").arg(m_flat));
+        m_mesh.notes.append(tr("Faces without area left out: %L1.").arg(m_flat));
     if (m_infinite > 0)
-        m_mesh.notes.append(tr("Faces with a corner at no finite place left out: %1.").arg(m_infinite));
+        m_mesh.notes.append(tr("Faces with a corner at no finite place left out: %L1.").arg(m_infinite));
     if (m_pointsAndLines > 0)
-        m_mesh.notes.append(tr("Points and lines left out: %1.").arg(m_pointsAndLines));
+        m_mesh.notes.append(tr("Points and lines left out: %L1.").arg(m_pointsAndLines));
     if (m_unused > 0)
-        m_mesh.notes.append(tr("Vertices without a face left out: %1.").arg(m_unused));
+        m_mesh.notes.append(tr("Vertices without a face left out: %L1.").arg(m_unused));
     Mesh made = std::move(m_mesh);
     *this = MeshMerger();
     return made;

@@ -47,7 +47,7 @@ std::unique_ptr<PlotView> MeshSource::read(const LoadProgress& progress)
         plot->setStartRotation(StartView::rotationWithYUp());
         plot->resetView();
     }
-    setDescription(tr("%1 vertices, %2 cells").arg(mesh.vertices.size()).arg(mesh.cells.size()));
+    setDescription(tr("%L1 vertices, %L2 cells").arg(mesh.vertices.size()).arg(mesh.cells.size()));
     setNotes(mesh.notes);
     return plot;
 }

@@ -97,7 +97,7 @@ QMenu* PlotHost::addSubmenu(const QString& text, QAction* end)
 
 void PlotHost::fillViewMenu(QAction* end)
 {
-    auto* reset = new QAction(icon("resetview"), tr("&Reset view"), this);
+    auto* reset = new QAction(icon("resetview"), tr("R&eset view"), this);
     reset->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_R));
     reset->setStatusTip(tr("Rotation, shift and zoom of the start"));
     connect(reset, &QAction::triggered, &m_page, [this] {
@@ -120,7 +120,7 @@ void PlotHost::fillViewMenu(QAction* end)
     m_viewMenu.insertActions(end, m_viewActions);
     addSubmenu(tr("&Grid planes"), end)
         ->addActions(m_page.plot().getToolBar(Zel3D::GridStyleToolBar)->actions());
-    QMenu* bars = addSubmenu(tr("Tool &bars"), end);
+    QMenu* bars = addSubmenu(tr("T&ool bars"), end);
     for (QToolBar* bar : qAsConst(m_bars))
         bars->addAction(bar->toggleViewAction());
 }

@@ -141,7 +141,7 @@ void PlotMenu::addLooks(QMenu& menu)
     auto* group = new QActionGroup(this);
     const QList<Zel3D::Look> looks = Zel3D::Look::all();
     for (const Zel3D::Look& look : looks) {
-        QAction* action = addSwitch(menu, look.name);
+        QAction* action = addSwitch(menu, look.getTitle());
         action->setChecked(look.name == m_page.view().look().name);
         group->addAction(action);
         connect(action, &QAction::triggered, &m_page, [this, look] {

@@ -2,6 +2,7 @@
 
 #include "plots/baseplot.h"
 #include "plotview.h"
+#include "viewerpreferences.h"
 
 #include <QSettings>
 
@@ -30,13 +31,21 @@ PlotPreferences PlotPreferences::stored()
         if (valid && style >= 0 && style < PlotStyles::names(kind).size())
             found.m_styles[kind] = style;
     }
-    const QString name = settings.value(lookKey).toString();
+    found.takeLook(settings.value(lookKey).toString());
+    found.takeLook(ViewerPreferences::standardLook());
+    return found;
+}
+
+bool PlotPreferences::takeLook(const QString& name)
+{
     const QList<Zel3D::Look> looks = Zel3D::Look::all();
     for (const Zel3D::Look& look : looks) {
-        if (look.name == name)
-            found.m_look = look;
+        if (look.name != name)
+            continue;
+        m_look = look;
+        return true;
     }
-    return found;
+    return false;
 }
 
 void PlotPreferences::store() const
@@ -53,7 +62,8 @@ void PlotPreferences::takeFrom(PlotView& view)
 {
     const Zel3D::BasePlot& plot = view.plot();
     m_styles[view.kind()] = view.plotStyle();
-    m_look = view.look();
+    if (ViewerPreferences::standardLook().isEmpty())
+        m_look = view.look();
     m_picking = plot.isSelecting();
     if (view.kind() == PlotKind::Surface)
         m_lighting = plot.isLighting();

@@ -18,10 +18,13 @@ public:
     static PlotPreferences stored();
     void store() const;
 
+    /// What the next plot is like, but for the look where the person prefers a standard one.
     void takeFrom(PlotView& view);
     void applyTo(PlotView& view) const;
 
     void setLook(const Zel3D::Look& look) { m_look = look; }
+    /// The look of this name; false when there is none, and the look stays.
+    bool takeLook(const QString& name);
     void setStyle(PlotKind kind, int style) { m_styles[kind] = style; }
 
 private:

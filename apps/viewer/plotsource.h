@@ -38,6 +38,8 @@ public:
 
     /// A short name for titles.
     const QString& name() const { return m_name; }
+    /// The same in every language, for a source without a file.
+    virtual QString identity() const { return m_name; }
     /// What was read, in numbers.
     const QString& description() const { return m_description; }
     /// Sentences on what was changed or left out while reading.

@@ -100,9 +100,10 @@ bool SpectraFile::checkSize(qint64 size, const QByteArray& start, char delimiter
     const std::optional<double> freeBytes = MemoryNeed::freeBytes();
     if (!freeBytes || need <= *freeBytes)
         return true;
-    return fail(tr("\"%1\" needs about %2 of memory for about %3 million values; %4 are free.")
-                    .arg(m_path, MemoryNeed::gigabytes(need), QString::number(values / 1e6, 'f', 0),
-                         MemoryNeed::gigabytes(*freeBytes)));
+    return fail(tr("\"%1\" needs about %2 of memory for about %L3 million values; %4 are free.")
+                    .arg(m_path, MemoryNeed::gigabytes(need))
+                    .arg(values / 1e6, 0, 'f', 0)
+                    .arg(MemoryNeed::gigabytes(*freeBytes)));
 }
 
 bool SpectraFile::readTable(QFile& file, char delimiter, Spectra& spectra, const LoadProgress& progress)
@@ -129,7 +130,7 @@ bool SpectraFile::readTable(QFile& file, char delimiter, Spectra& spectra, const
         return fail(tr("\"%1\" cannot be read: %2.")
                         .arg(m_path, reader.error().isEmpty() ? table.error() : reader.error()));
     if (reader.comments() > 0)
-        found.notes.append(tr("Comment lines passed over: %1.").arg(reader.comments()));
+        found.notes.append(tr("Comment lines passed over: %L1.").arg(reader.comments()));
     spectra = std::move(found);
     return true;
 }

@@ -50,12 +50,12 @@ std::unique_ptr<PlotView> SpectraSource::read(const LoadProgress& progress)
     int index = 0;
     for (const auto& [position, spectrum] : spectra.map)
         m_names[position] = spectra.names.value(index++);
-    const QString box = tr("%1 to %2, values %3 to %4")
+    const QString box = tr("%L1 to %L2, values %L3 to %L4")
                             .arg(plot->lower()[0], 0, 'g', digits)
                             .arg(plot->upper()[0], 0, 'g', digits)
                             .arg(plot->lower()[2], 0, 'g', digits)
                             .arg(plot->upper()[2], 0, 'g', digits);
-    setDescription(tr("%1 spectra, %2 points, %3").arg(spectra.map.size()).arg(values).arg(box));
+    setDescription(tr("%L1 spectra, %L2 points, %3").arg(spectra.map.size()).arg(values).arg(box));
     setNotes(spectra.notes);
     return plot;
 }
@@ -67,7 +67,7 @@ QString SpectraSource::describe(const Zel3D::SelectedObjectsInfo& place) const
     if (nearest == m_names.end() ||
         (nearest != m_names.begin() && place.y - std::prev(nearest)->first < nearest->first - place.y))
         --nearest;
-    return tr("%1 %2: %3 at %4")
+    return tr("%1 %2: %L3 at %L4")
         .arg(m_label, nearest->second)
         .arg(place.z)
         .arg(place.x, 0, 'g', pickDigits(place.x));

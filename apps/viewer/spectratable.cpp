@@ -298,7 +298,7 @@ bool SpectraTable::checkEnd()
 void SpectraTable::noteInfinite()
 {
     if (m_infinite > 0)
-        m_notes.append(tr("Values too large to draw are missing: %1, the first in %2.")
+        m_notes.append(tr("Values too large to draw are missing: %L1, the first in %2.")
                            .arg(m_infinite)
                            .arg(m_firstInfinite));
 }
@@ -314,7 +314,7 @@ bool SpectraTable::finish(Spectra& spectra)
     } else {
         placeByNumber();
         made.positionLabel = m_header.front();
-        m_notes.append(tr("The columns are read as pairs of x and y; spectra: %1.").arg(m_spectra.size()));
+        m_notes.append(tr("The columns are read as pairs of x and y; spectra: %L1.").arg(m_spectra.size()));
     }
     noteInfinite();
     std::map<double, std::size_t> order;

@@ -31,6 +31,11 @@ TableSource::TableSource(ClipboardTable table, TableMeaning meaning)
     setName(tr("Pasted table"));
 }
 
+QString TableSource::identity() const
+{
+    return QStringLiteral("Pasted table");
+}
+
 std::unique_ptr<PlotView> TableSource::read(const LoadProgress& /*progress*/)
 {
     return m_meaning == TableMeaning::Spectra ? readSpectra() : readSurface();

@@ -14,6 +14,7 @@ public:
     /// The table must have been read.
     TableSource(ClipboardTable table, TableMeaning meaning);
 
+    QString identity() const override;
     /// Says which spectrum it is.
     QString describe(const Zel3D::SelectedObjectsInfo& place) const override;
 

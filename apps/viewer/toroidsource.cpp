@@ -15,6 +15,11 @@ ToroidSource::ToroidSource()
     setName(tr("Toroid"));
 }
 
+QString ToroidSource::identity() const
+{
+    return QStringLiteral("Toroid");
+}
+
 std::unique_ptr<PlotView> ToroidSource::read(const LoadProgress& /*progress*/)
 {
     Zel3D::Toroid toroid;
@@ -22,6 +27,6 @@ std::unique_ptr<PlotView> ToroidSource::read(const LoadProgress& /*progress*/)
     auto plot = std::make_unique<ViewerPlot>();
     if (!plot->load(toroid))
         return failToDraw();
-    setDescription(tr("%1 x %2 nodes").arg(around).arg(across));
+    setDescription(tr("%L1 x %L2 nodes").arg(around).arg(across));
     return plot;
 }

@@ -12,6 +12,8 @@ class ToroidSource : public PlotSource
 public:
     ToroidSource();
 
+    QString identity() const override;
+
 protected:
     std::unique_ptr<PlotView> read(const LoadProgress& progress) override;
 };

@@ -10,6 +10,7 @@
 #include "plotpage.h"
 #include "plots/baseplot.h"
 #include "plottabs.h"
+#include "preferencesdialog.h"
 #include "progressbox.h"
 #include "recentfiles.h"
 #include "recentmenu.h"
@@ -51,7 +52,7 @@ QIcon icon(const char* name)
 QString subjectOf(const PlotSource& source)
 {
     const QString file = source.filePath();
-    return file.isEmpty() ? source.name() : QFileInfo(file).absoluteFilePath() + ' ' + source.name();
+    return file.isEmpty() ? source.identity() : QFileInfo(file).absoluteFilePath() + ' ' + source.name();
 }
 
 /// What was changed after the last save belongs to it: a look from the menu, the view.
@@ -102,6 +103,9 @@ ViewerWindow::ViewerWindow()
     m_plotMenu = menuBar()->addMenu(tr("&Plot"));
     createTabs();
     createViewMenu();
+    m_editMenu->addSeparator();
+    m_editMenu->addAction(tr("Pr&eferences..."), this, &ViewerWindow::editPreferences)
+        ->setStatusTip(tr("Language, look of new plots, size of grids"));
     restore();
     showPage(nullptr);
 }
@@ -216,7 +220,7 @@ void ViewerWindow::createViewMenu()
     m_fullScreenAction->setIcon(icon("fullscreen"));
     connect(m_fullScreenAction, &QAction::triggered, this, &ViewerWindow::showFullScreen);
     m_viewMenu->addSeparator();
-    m_linkAction = addSwitch(tr("&Link views"), Qt::CTRL + Qt::SHIFT + Qt::Key_L);
+    m_linkAction = addSwitch(tr("L&ink views"), Qt::CTRL + Qt::SHIFT + Qt::Key_L);
     m_linkAction->setStatusTip(tr("Turn, zoom and shift all plots together"));
     connect(m_linkAction, &QAction::triggered, this, &ViewerWindow::linkViews);
     // Where it is seen, too, that plots are linked.
@@ -379,6 +383,14 @@ void ViewerWindow::askFormula()
     FormulaDialog dialog(this);
     if (dialog.exec() == QDialog::Accepted)
         showPlot(std::make_unique<FormulaSource>(dialog.formula(), dialog.area()));
+}
+
+void ViewerWindow::editPreferences()
+{
+    PreferencesDialog dialog(this);
+    connect(&dialog, &PreferencesDialog::lookChosen, this,
+            [this](const QString& name) { m_preferences.takeLook(name); });
+    dialog.exec();
 }
 
 void ViewerWindow::fitPlot(const QSize& size)

@@ -75,6 +75,7 @@ private:
     void remember();
     void chooseFile();
     void askFormula();
+    void editPreferences();
 
     PlotPreferences m_preferences;
     ViewerBindings* m_bindings;

@@ -26,11 +26,16 @@ WaterSource::WaterSource()
 
 WaterSource::~WaterSource() = default;
 
+QString WaterSource::identity() const
+{
+    return QStringLiteral("Water surface");
+}
+
 std::unique_ptr<PlotView> WaterSource::read(const LoadProgress& /*progress*/)
 {
     auto plot = std::make_unique<ViewerPlot>();
     plot->setRelief(waterRelief);
-    plot->setDataGradient(tr("Water"), waterGradient());
+    plot->setDataGradient(QT_TRANSLATE_NOOP("GradientName", "Water"), waterGradient());
     m_simulation = std::make_unique<WaterSimulation>(*plot);
     if (!m_simulation->fill())
         return failToDraw();

@@ -13,6 +13,7 @@ public:
     WaterSource();
     ~WaterSource() override;
 
+    QString identity() const override;
     WaterSimulation* simulation() override;
 
 protected:

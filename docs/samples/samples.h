@@ -25,6 +25,9 @@ bool parametric(Zel3D::SHPlot& plot);
 bool logarithmic(Zel3D::SHPlot& plot, double** z, unsigned int columns, unsigned int rows);
 void water(Zel3D::SHPlot& plot, QTimer& timer);
 
+// languages.cpp
+QString inFrench();
+
 // axes.cpp
 void names(Zel3D::BasePlot& plot);
 void divisions(Zel3D::BasePlot& plot);

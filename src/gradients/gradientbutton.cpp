@@ -5,6 +5,7 @@
 #include "gradients/gradientlistmodel.h"
 #include "gradients/gradientmanager.h"
 #include "gradients/gradientpainter.h"
+#include "gradients/gradientpresets.h"
 #include "gradients/swatchmenustyle.h"
 
 #include <QActionGroup>
@@ -78,8 +79,8 @@ void GradientButton::showSwatch()
     const int room = height * 2 / 3;
     setIconSize(size + QSize(room, 0));
     setIcon(gradientSwatch(gradient, size, *this, room));
-    setToolTip(current.isEmpty() ? tr("No gradient") : tr("Gradient: %1").arg(current));
-    setAccessibleDescription(current);
+    setToolTip(current.isEmpty() ? tr("No gradient") : tr("Gradient: %1").arg(gradientTitle(current)));
+    setAccessibleDescription(gradientTitle(current));
 }
 
 void GradientButton::changeEvent(QEvent* event)
@@ -98,7 +99,7 @@ void GradientButton::fillMenu()
     const QMap<QString, QGradient> all = manager->gradients();
     for (auto it = all.begin(); it != all.end(); ++it) {
         // An ampersand of a name is no mnemonic.
-        QString text = it.key();
+        QString text = gradientTitle(it.key());
         QAction* action = menu()->addAction(gradientSwatch(it.value(), size, *this), text.replace('&', "&&"));
         action->setCheckable(true);
         action->setChecked(it.key() == current);

@@ -148,7 +148,8 @@ QMenu* GradientListDialog::makeAddMenu()
         QMenu* target = preset.kind == GradientPreset::Kind::Sequential ? sequential : diverging;
         const QGradient gradient = gradientOf(preset.stops);
         const QSize size(fontMetrics().height() * 3, fontMetrics().height());
-        QAction* action = target->addAction(gradientSwatch(gradient, size, *this), preset.name);
+        QAction* action =
+            target->addAction(gradientSwatch(gradient, size, *this), gradientTitle(preset.name));
         action->setToolTip(preset.source + '\n' + preset.terms);
         connect(action, &QAction::triggered, this,
                 [this, name = preset.name, gradient] { setCurrentName(model->add(name, gradient)); });

@@ -3,6 +3,7 @@
 #include "gradients/gradientcolors.h"
 #include "gradients/gradientmanager.h"
 #include "gradients/gradientpainter.h"
+#include "gradients/gradientpresets.h"
 
 #include <QIODevice>
 #include <QWidget>
@@ -32,13 +33,15 @@ QVariant GradientListModel::data(const QModelIndex& index, int role) const
     if (!index.isValid() || index.row() >= entries.size())
         return {};
     const Entry& entry = entries[index.row()];
-    if (role == Qt::DisplayRole || role == Qt::EditRole)
+    if (role == Qt::EditRole)
         return entry.first;
+    if (role == Qt::DisplayRole)
+        return gradientTitle(entry.first);
     if (role == Qt::DecorationRole)
         return gradientSwatch(entry.second, getSwatchSize(), *widget);
     if (role == Qt::ToolTipRole && isProtected(index.row()))
-        return tr("%1: built in, duplicate it to change it").arg(entry.first);
-    return role == Qt::ToolTipRole ? entry.first : QVariant();
+        return tr("%1: built in, duplicate it to change it").arg(gradientTitle(entry.first));
+    return role == Qt::ToolTipRole ? gradientTitle(entry.first) : QVariant();
 }
 
 Qt::ItemFlags GradientListModel::flags(const QModelIndex& index) const

@@ -2,6 +2,8 @@
 
 #include "gradients/gradientcolors.h"
 
+#include <QCoreApplication>
+
 #include <QStringList>
 
 #include <cmath>
@@ -74,12 +76,12 @@ QVector<GradientPreset> makePresets()
         {"Magma", sequential, smith, cc0, stopsOf(magma, 256)},
         {"Cividis", sequential, "Jamie Nunez, Christopher Anderton and Ryan Renslow, PLOS ONE 13(7), 2018",
          cc0, stopsOf(cividis, 256)},
-        {"Greys", sequential, "Equal steps of CIE 1976 lightness from black to white", "Computed, no terms",
-         greys()},
+        {QT_TRANSLATE_NOOP("GradientName", "Greys"), sequential,
+         "Equal steps of CIE 1976 lightness from black to white", "Computed, no terms", greys()},
         {"RdBu", diverging, brewer, apache, stopsOf(rdBu, 11)},
         {"BrBG", diverging, brewer, apache, stopsOf(brBG, 11)},
         {"PuOr", diverging, brewer, apache, stopsOf(puOr, 11)},
-        {"Cool-warm", diverging,
+        {QT_TRANSLATE_NOOP("GradientName", "Cool-warm"), diverging,
          "Kenneth Moreland, Diverging Color Maps for Scientific Visualization, ISVC 2009",
          "Table published by its author for free use", stopsOf(coolWarm, 17)},
     };
@@ -91,6 +93,11 @@ const QVector<GradientPreset>& gradientPresets()
 {
     static const QVector<GradientPreset> presets = makePresets();
     return presets;
+}
+
+QString gradientTitle(const QString& name)
+{
+    return QCoreApplication::translate("GradientName", name.toUtf8().constData());
 }
 
 } // namespace Zel3D

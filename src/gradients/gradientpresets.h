@@ -23,4 +23,9 @@ struct GradientPreset
 /// tells more about their sources.
 Q_DECL_EXPORT const QVector<GradientPreset>& gradientPresets();
 
+/// What people read for the name of a gradient. Names of presets and of looks are the same in every language
+/// where gradients are kept; here they are translated, as are names that a program translates in the context
+/// "GradientName". Any other name stays as it is.
+Q_DECL_EXPORT QString gradientTitle(const QString& name);
+
 } // namespace Zel3D

@@ -18,10 +18,18 @@ bool sameGradients(const QMap<QString, QGradient>& a, const QMap<QString, QGradi
                       [](const QGradient& x, const QGradient& y) { return sameGradient(x, y); });
 }
 
+/// The built-in gradient as settings name it, in every language.
+const QString builtIn = QStringLiteral("Default");
+
 /// The built-in gradient always comes from the gradient store.
 bool isBuiltIn(const QString& name)
 {
-    return name == GradientManager::tr("Default");
+    return name == builtIn || name == GradientManager::tr("Default");
+}
+
+QString storedName(const QString& name)
+{
+    return isBuiltIn(name) ? builtIn : name;
 }
 
 } // namespace
@@ -155,7 +163,11 @@ void BasePlot::GradientsSettings::saveSettings(const QString& prefix, const QStr
     if (!needSave)
         return;
     QSettings settings(organization, application);
-    settings.setValue(QString("%0/gradients/names").arg(prefix), QStringList(gradients.keys()));
+    QStringList names;
+    for (const QString& name : gradients.keys())
+        names.append(storedName(name));
+    names.removeDuplicates();
+    settings.setValue(QString("%0/gradients/names").arg(prefix), names);
     for (auto it = gradients.cbegin(); it != gradients.cend(); ++it) {
         if (isBuiltIn(it.key()))
             continue;
@@ -168,7 +180,7 @@ void BasePlot::GradientsSettings::saveSettings(const QString& prefix, const QStr
                               stops[i].second);
         }
     }
-    settings.setValue(QString("%0/gradients/current").arg(prefix), current);
+    settings.setValue(QString("%0/gradients/current").arg(prefix), storedName(current));
 }
 
 void BasePlot::GradientsSettings::loadSettings(const QString& prefix, const QString& organization,
@@ -196,6 +208,8 @@ void BasePlot::GradientsSettings::loadSettings(const QString& prefix, const QStr
         gradients.insert(name, gradient);
     }
     current = settings.value(QString("%0/gradients/current").arg(prefix), QString()).toString();
+    if (current == builtIn)
+        current = GradientManager::tr("Default");
 }
 
 BasePlot::SingleAxesSettings::SingleAxesSettings(unsigned int minorCount, unsigned int majorCount,

@@ -13,11 +13,6 @@ namespace {
 
 constexpr int axisCount = 12;
 
-QString text(const char* words)
-{
-    return QCoreApplication::translate("Look", words);
-}
-
 QLinearGradient evenGradient(const QList<QColor>& colors)
 {
     QLinearGradient gradient;
@@ -54,7 +49,7 @@ void dress(Axis& axis, const Look& look)
 Look Look::light()
 {
     Look look;
-    look.name = text("Light");
+    look.name = QT_TRANSLATE_NOOP("Look", "Light");
     look.background = Qt::white;
     look.ink = QColor(40, 40, 40);
     look.gridColor = QColor(200, 204, 210);
@@ -63,7 +58,7 @@ Look Look::light()
     look.titleFont = QFont("Sans Serif", 13, QFont::DemiBold);
     look.nameFont = QFont("Sans Serif", 10);
     look.numberFont = QFont("Sans Serif", 9);
-    look.gradientName = text("Blue to yellow");
+    look.gradientName = QT_TRANSLATE_NOOP("GradientName", "Blue to yellow");
     look.gradient = blueToYellow();
     return look;
 }
@@ -71,7 +66,7 @@ Look Look::light()
 Look Look::dark()
 {
     Look look = light();
-    look.name = text("Dark");
+    look.name = QT_TRANSLATE_NOOP("Look", "Dark");
     look.background = QColor(36, 39, 44);
     look.ink = QColor(222, 224, 228);
     look.gridColor = QColor(86, 91, 100);
@@ -82,7 +77,7 @@ Look Look::dark()
 Look Look::print()
 {
     Look look = light();
-    look.name = text("Print");
+    look.name = QT_TRANSLATE_NOOP("Look", "Print");
     look.ink = Qt::black;
     look.gridColor = QColor(170, 170, 170);
     look.meshColor = QColor(0, 0, 0, 200);
@@ -91,6 +86,11 @@ Look Look::print()
     look.nameFont.setPointSize(12);
     look.numberFont.setPointSize(11);
     return look;
+}
+
+QString Look::getTitle() const
+{
+    return QCoreApplication::translate("Look", name.toUtf8().constData());
 }
 
 QList<Look> Look::all()

@@ -34,10 +34,12 @@ struct VORANPLOT_EXPORT Look
     /// The looks of the library.
     static QList<Look> all();
 
+    /// The name for people, in their language; a name of one's own as it is.
+    QString getTitle() const;
     /// Changes the plot's appearance; the next paint shows it.
     void applyTo(BasePlot& plot) const;
 
-    QString name; ///< shown to people
+    QString name; ///< the same in every language, for stores and command lines
     QColor background;
     QColor ink; ///< axis lines, ticks, arrows and texts
     QColor gridColor;

@@ -1,5 +1,6 @@
 #include "plots/plotactions.h"
 
+#include "plots/showntexts.h"
 #include "plots/styleaction.h"
 
 #include <QActionGroup>
@@ -7,16 +8,6 @@
 #include <QMenu>
 
 namespace Zel3D {
-
-namespace {
-
-/// The texts belong to the plot for those who translate them.
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("Zel3D::BasePlot", text);
-}
-
-} // namespace
 
 const std::array<PlotActions::Entry, 6>& PlotActions::viewEntries()
 {
@@ -60,7 +51,10 @@ const PlotActions::Entry& PlotActions::settingsEntry()
     return entry;
 }
 
-PlotActions::PlotActions(QWidget& owner) : plot(owner), styleGroup(new QActionGroup(&owner)) {}
+PlotActions::PlotActions(QWidget& owner)
+    : plot(owner), texts(std::make_unique<ShownTexts>(owner)), styleGroup(new QActionGroup(&owner))
+{
+}
 
 PlotActions::~PlotActions()
 {
@@ -99,7 +93,8 @@ QToolBar* PlotActions::addBar(PlotToolBarType type, const char* title, const QSt
     const QPointer<QToolBar> before = bars.value(type);
     if (before && !before->parent())
         delete before;
-    auto* bar = new QToolBar(translated(title));
+    auto* bar = new QToolBar;
+    texts->show(bar, "windowTitle", title);
     bar->setObjectName(name);
     bars.insert(type, bar);
     return bar;
@@ -107,10 +102,10 @@ QToolBar* PlotActions::addBar(PlotToolBarType type, const char* title, const QSt
 
 QAction* PlotActions::makeAction(const Entry& entry)
 {
-    auto* action = new QAction(QIcon(entry.icon), translated(entry.label), &plot);
-    const QString tip = translated(entry.tip);
-    action->setToolTip(tip);
-    action->setStatusTip(tip);
+    auto* action = new QAction(QIcon(entry.icon), QString(), &plot);
+    texts->show(action, "text", entry.label);
+    texts->show(action, "toolTip", entry.tip);
+    texts->show(action, "statusTip", entry.tip);
     // By its text alone "Settings" would move to the application's own menu on some desktops.
     action->setMenuRole(QAction::NoRole);
     return action;
@@ -160,8 +155,11 @@ QAction* PlotActions::createContextMenu()
     delete settingsAction;
     contextMenu = new QMenu(&plot);
     for (const QPointer<QToolBar>& bar : qAsConst(bars)) {
-        if (bar && !bar->actions().isEmpty())
-            contextMenu->addMenu(bar->windowTitle())->addActions(bar->actions());
+        if (!bar || bar->actions().isEmpty())
+            continue;
+        QMenu* menu = contextMenu->addMenu(bar->windowTitle());
+        menu->addActions(bar->actions());
+        QObject::connect(bar, &QWidget::windowTitleChanged, menu, &QMenu::setTitle);
     }
     if (!contextMenu->isEmpty())
         contextMenu->addSeparator();

@@ -10,6 +10,7 @@
 #include <QToolBar>
 
 #include <array>
+#include <memory>
 
 class QAction;
 class QActionGroup;
@@ -18,6 +19,7 @@ class QWidget;
 
 namespace Zel3D {
 
+class ShownTexts;
 class StyleAction;
 
 /// Makes and holds the tool bars, the actions and the context menu of a plot; what they do is connected by
@@ -25,6 +27,7 @@ class StyleAction;
 ///
 /// The actions, the style group and the menu are children of the plot. The bars have no parent: the host that
 /// places them takes them over and may delete them at any time. Those that nobody took go with this object.
+/// Their words follow the language; see ShownTexts.
 class PlotActions
 {
 public:
@@ -83,6 +86,7 @@ private:
     QAction* makeAction(const Entry& entry);
 
     QWidget& plot;
+    std::unique_ptr<ShownTexts> texts;
     QMap<PlotToolBarType, QPointer<QToolBar>> bars;
     QActionGroup* styleGroup;
     QList<QAction*> viewActions;

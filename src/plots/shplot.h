@@ -77,6 +77,7 @@ signals:
     void dataChangingChanged(bool on);
 
 protected:
+    void changeEvent(QEvent* event) override;
     void calculateHull() override;
     void drawArrays() override;
     void createData() override;

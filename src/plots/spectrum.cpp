@@ -5,9 +5,11 @@
 #include "core/dataorigin.h"
 #include "plots/datacheck.h"
 #include "plots/sheetpolygons.h"
+#include "plots/styleaction.h"
 #include "settings/plotsettingsdialog.h"
 
 #include <QCoreApplication>
+#include <QEvent>
 
 #include <algorithm>
 #include <cmath>
@@ -17,6 +19,20 @@
 namespace Zel3D {
 
 namespace {
+
+struct StyleEntry
+{
+    const char* icon;
+    const char* label;
+};
+
+constexpr StyleEntry styles[] = {
+    {":/plot/images/noplot.svg", QT_TRANSLATE_NOOP("Zel3D::Spectrum", "No plot")},
+    {":/plot/images/points.svg", QT_TRANSLATE_NOOP("Zel3D::Spectrum", "Points")},
+    {":/plot/images/spectrum.svg", QT_TRANSLATE_NOOP("Zel3D::Spectrum", "Lines")},
+    {":/plot/images/spectrumfilled.svg", QT_TRANSLATE_NOOP("Zel3D::Spectrum", "Filled")},
+    {":/plot/images/spectrumframe.svg", QT_TRANSLATE_NOOP("Zel3D::Spectrum", "Filled and frame")},
+};
 
 /// NaN for what has no exponent.
 double exponentOf(double value)
@@ -50,11 +66,21 @@ void Spectrum::slotSettingsDialog()
 
 void Spectrum::createPlotStyleActions()
 {
-    addStyleAction(0, ":/plot/images/noplot.svg", tr("No plot"));
-    addStyleAction(1, ":/plot/images/points.svg", tr("Points"));
-    addStyleAction(2, ":/plot/images/spectrum.svg", tr("Lines"));
-    addStyleAction(3, ":/plot/images/spectrumfilled.svg", tr("Filled"));
-    addStyleAction(4, ":/plot/images/spectrumframe.svg", tr("Filled and frame"));
+    int style = 0;
+    for (const StyleEntry& entry : styles)
+        addStyleAction(style++, entry.icon, tr(entry.label));
+}
+
+void Spectrum::changeEvent(QEvent* event)
+{
+    BasePlot::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange)
+        return;
+    // Those of a derived plot follow.
+    int style = 0;
+    const QList<StyleAction*> made = getStyleActions();
+    for (const StyleEntry& entry : styles)
+        made.at(style++)->setLabel(tr(entry.label));
 }
 
 SpectrumData::Map Spectrum::toExponents(const SpectrumData::Map& spectra, BaseAxisType axis, int& lost) const

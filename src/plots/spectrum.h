@@ -66,6 +66,7 @@ public slots:
     void slotSettingsDialog() override;
 
 protected:
+    void changeEvent(QEvent* event) override;
     void createPlotStyleActions() override;
     void calculateHull() override;
     void createData() override;

@@ -102,7 +102,7 @@ QVariant BindingsModel::data(const QModelIndex& index, int role) const
         return {};
     switch (index.column()) {
     case ActionColumn:
-        return action.label;
+        return action.title();
     case GestureColumn:
         return bindings.gesture(row).text();
     case NoteColumn:

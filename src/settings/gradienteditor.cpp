@@ -67,7 +67,7 @@ void GradientEditor::show(const QVariant& value)
 void GradientEditor::showName()
 {
     const QString name = button->getCurrentName();
-    button->setText(name.isEmpty() ? tr("None") : QString(name).replace('&', "&&"));
+    button->setText(name.isEmpty() ? tr("None") : gradientTitle(name).replace('&', "&&"));
     // The button tells of the gradient, the field of what it is for.
     button->setToolTip(toolTip());
 }

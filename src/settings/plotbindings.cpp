@@ -116,16 +116,20 @@ QVector<PlotBindings::Action> allActions()
     QVector<PlotBindings::Action> all;
     const MouseBindings mouse;
     for (const DragAction& action : dragActions)
-        all.append(
-            {action.id, Words::tr(action.label), fromBinding(mouse.*action.binding), action.direction});
+        all.append({action.id, action.label, fromBinding(mouse.*action.binding), action.direction});
     const KeyBindings keys;
     for (const KeyAction& action : keyActions)
-        all.append({action.id, Words::tr(action.label), fromBinding(keys.*action.binding), {}});
-    all.append({hoverId, Words::tr("Pick values"), Gesture(), {}});
+        all.append({action.id, action.label, fromBinding(keys.*action.binding), {}});
+    all.append({hoverId, QT_TRANSLATE_NOOP("PlotBindings", "Pick values"), Gesture(), {}});
     return all;
 }
 
 } // namespace
+
+QString PlotBindings::Action::title() const
+{
+    return Words::tr(label);
+}
 
 PlotBindings::PlotBindings()
 {
@@ -205,7 +209,7 @@ int PlotBindings::partner(int action) const
 
 QString PlotBindings::sameGesture(const Action& other)
 {
-    return Words::tr("The same gesture does \"%1\".").arg(other.label);
+    return Words::tr("The same gesture does \"%1\".").arg(other.title());
 }
 
 QString PlotBindings::clash(int action) const
@@ -255,7 +259,7 @@ PlotBindings PlotBindings::load(QSettings& store, QStringList* problems)
             result.gestures[action] = *gesture;
         else
             found.append(Words::tr("\"%1\" is no gesture for \"%2\".")
-                             .arg(text.left(longestQuote), actions().at(action).label));
+                             .arg(text.left(longestQuote), actions().at(action).title()));
     }
     store.endGroup();
     result.solveClashes(found);
@@ -274,7 +278,7 @@ void PlotBindings::solveClashes(QStringList& problems)
             if (sentence.isEmpty() || isStandard(i))
                 continue;
             problems.append(Words::tr("\"%1\" is not used for \"%2\": %3")
-                                .arg(gestures.at(i).text(), actions().at(i).label, sentence));
+                                .arg(gestures.at(i).text(), actions().at(i).title(), sentence));
             gestures[i] = actions().at(i).standard;
             solved = false;
         }

@@ -21,8 +21,10 @@ public:
     /// Something that a gesture does.
     struct VORANPLOT_EXPORT Action
     {
-        QString id; ///< the same in every language, such as "drag/zoom"
-        QString label;
+        QString id;        ///< the same in every language, such as "drag/zoom"
+        const char* label; ///< in English
+        /// In the language of now.
+        QString title() const;
         Gesture standard;
         Qt::Orientation drag = Qt::Horizontal; ///< the part of a drag that acts
     };

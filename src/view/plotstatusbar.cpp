@@ -32,11 +32,12 @@ void setText(QLabel* label, const QString& text)
 PlotStatusBar::PlotStatusBar(BasePlot* plotShown, QWidget* parent)
     : QStatusBar(parent),
       plot(plotShown),
-      rotationLabel(addLabel(tr("Rotation: [X;Y;Z]"))),
-      viewportShiftLabel(addLabel(tr("Viewport shift: [X;Y]"))),
-      scaleLabel(addLabel(tr("Scale: [X;Y;Z]"))),
-      zoomLabel(addLabel(tr("Zoom")))
+      rotationLabel(addLabel()),
+      viewportShiftLabel(addLabel()),
+      scaleLabel(addLabel()),
+      zoomLabel(addLabel())
 {
+    nameLabels();
     initByDefaultSettings();
     connectAll();
 }
@@ -46,13 +47,34 @@ BasePlot* PlotStatusBar::getPlot() const
     return plot;
 }
 
-QLabel* PlotStatusBar::addLabel(const QString& toolTip)
+QLabel* PlotStatusBar::addLabel()
 {
     auto* label = new QLabel(this);
-    label->setToolTip(toolTip);
-    label->setAccessibleName(toolTip);
     addPermanentWidget(label);
     return label;
+}
+
+void PlotStatusBar::nameLabels()
+{
+    const auto name = [](QLabel* label, const QString& text) {
+        if (!label)
+            return;
+        label->setToolTip(text);
+        label->setAccessibleName(text);
+    };
+    name(rotationLabel, tr("Rotation: [X;Y;Z]"));
+    name(viewportShiftLabel, tr("Viewport shift: [X;Y]"));
+    name(scaleLabel, tr("Scale: [X;Y;Z]"));
+    name(zoomLabel, tr("Zoom"));
+}
+
+void PlotStatusBar::changeEvent(QEvent* event)
+{
+    QStatusBar::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange)
+        return;
+    nameLabels();
+    initByDefaultSettings();
 }
 
 void PlotStatusBar::initByDefaultSettings()
@@ -60,10 +82,12 @@ void PlotStatusBar::initByDefaultSettings()
     if (!plot)
         return;
     const ValueXYZ<double>& rotation = plot->getRotation();
-    setText(rotationLabel, filled(tr("Rotation: %0; %1; %2"), rotation.x, rotation.y, rotation.z));
+    setText(rotationLabel, filled(turned ? tr("Turn: %0; %1; %2") : tr("Rotation: %0; %1; %2"), rotation.x,
+                                  rotation.y, rotation.z));
     slotViewportShiftChanged(plot->getViewportShift().x, plot->getViewportShift().y);
     const ValueXYZ<double>& scale = plot->getScale();
-    setText(scaleLabel, filled(tr("Scale: %0; %1; %2"), scale.x, scale.y, scale.z, fewDigits));
+    setText(scaleLabel, filled(scaled ? tr("Scaling: %0; %1; %2") : tr("Scale: %0; %1; %2"), scale.x, scale.y,
+                               scale.z, fewDigits));
     slotZoomChanged(plot->getZoom());
 }
 
@@ -97,6 +121,7 @@ void PlotStatusBar::resizeEvent(QResizeEvent* event)
 
 void PlotStatusBar::slotRotationChanged(double x, double y, double z)
 {
+    turned = true;
     setText(rotationLabel, filled(tr("Turn: %0; %1; %2"), x, y, z));
 }
 
@@ -108,6 +133,7 @@ void PlotStatusBar::slotViewportShiftChanged(double x, double y)
 
 void PlotStatusBar::slotScaleChanged(double x, double y, double z)
 {
+    scaled = true;
     setText(scaleLabel, filled(tr("Scaling: %0; %1; %2"), x, y, z, fewDigits));
 }
 

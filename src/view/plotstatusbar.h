@@ -44,9 +44,12 @@ public slots:
 protected:
     /// In a narrow bar the labels give way to the messages: the viewport shift first, the rotation last.
     void resizeEvent(QResizeEvent* event) override;
+    /// The labels follow the language.
+    void changeEvent(QEvent* event) override;
 
 private:
-    QLabel* addLabel(const QString& toolTip);
+    QLabel* addLabel();
+    void nameLabels();
     void initByDefaultSettings();
     void connectAll();
 
@@ -55,6 +58,8 @@ private:
     QPointer<QLabel> viewportShiftLabel;
     QPointer<QLabel> scaleLabel;
     QPointer<QLabel> zoomLabel;
+    bool turned = false;
+    bool scaled = false;
 };
 
 } // namespace Zel3D

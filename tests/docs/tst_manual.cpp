@@ -1,5 +1,6 @@
 // The manual says what the library does: its samples run, its tables are complete and true.
 
+#include "core/translations.h"
 #include "harness/harness.h"
 #include "manualtables.h"
 #include "ownaddition.h"
@@ -375,6 +376,8 @@ void TestManual::pickingSamples()
 
 void TestManual::windowSamples()
 {
+    QCOMPARE(samples::inFrench(), QString("Fil de fer"));
+    Translations::remove();
     QMainWindow window;
     const QPointer<SHPlot> plot = samples::window(window);
     const QPointer<SHPlot> detail = samples::dock(window);

@@ -239,7 +239,7 @@ void TestBindings::swapSolvesAClash()
     QVERIFY(model.setGesture(in, keyGesture(Qt::Key_Up)));
     for (int clashing : {in, back}) {
         const QModelIndex note = model.index(clashing, BindingsModel::NoteColumn);
-        QVERIFY(note.data().toString().contains(PlotBindings::actions().at(in + back - clashing).label));
+        QVERIFY(note.data().toString().contains(PlotBindings::actions().at(in + back - clashing).title()));
         QVERIFY(!note.data(Qt::DecorationRole).isNull());
     }
     QVERIFY(model.swap(in));

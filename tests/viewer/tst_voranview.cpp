@@ -23,7 +23,7 @@ struct Outcome
 
 enum class Screen { None, Absent, Virtual };
 
-Outcome runViewer(const QStringList& arguments, Screen screen = Screen::Virtual)
+Outcome runViewer(const QStringList& arguments, Screen screen = Screen::Virtual, const QString& language = {})
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     if (screen != Screen::Virtual) {
@@ -32,6 +32,7 @@ Outcome runViewer(const QStringList& arguments, Screen screen = Screen::Virtual)
     }
     if (screen == Screen::Absent)
         environment.insert("DISPLAY", ":987");
+    environment.insert("LANGUAGE", language);
     // The driver's own allocations cannot be told from the program's once it is unloaded.
     environment.insert("ASAN_OPTIONS", "detect_leaks=0");
     QProcess process;
@@ -84,6 +85,7 @@ private slots:
     void wordsNeedNoDisplay();
     void refusalsAreOneSentence_data();
     void refusalsAreOneSentence();
+    void wordsAreInTheLanguageOfTheEnvironment();
     void debugMessagesAreForThoseWhoAsk();
     void pictureHasTheSizeAndTheRelief_data();
     void pictureHasTheSizeAndTheRelief();
@@ -371,6 +373,20 @@ void TestVoranview::pictureHasTheSizeAndTheRelief_data()
     QTest::newRow("usual") << QSize(800, 600);
     QTest::newRow("small") << QSize(300, 200);
     QTest::newRow("wider than the screen") << QSize(2500, 400);
+}
+
+void TestVoranview::wordsAreInTheLanguageOfTheEnvironment()
+{
+    const QString help = runViewer({"--help"}, Screen::None, "de").output;
+    QVERIFY2(help.contains("Zeigt Höhenraster"), qPrintable(help));
+    // What is typed is the same in every language.
+    for (const char* typed : {"--style <NAME>", "wireframe", "--look <NAME>", "dark", "Viridis", "front"})
+        QVERIFY2(help.contains(typed), typed);
+    const QString refusal = runViewer({"--size", "10x10", example}, Screen::None, "fr:de").errors;
+    QCOMPARE(
+        refusal,
+        QString("voranview: La taille «\u00a010x10\u00a0» n’est pas LARGEURxHAUTEUR avec des côtés de 50 à "
+                "16384 pixels.\n"));
 }
 
 void TestVoranview::debugMessagesAreForThoseWhoAsk()
