@@ -10,6 +10,7 @@
 #include "plots/pickpass.h"
 #include "plots/pictureframe.h"
 #include "plots/plotactions.h"
+#include "plots/plotlists.h"
 #include "plots/plotproperties.h"
 #include "plots/settingsdialogoptions.h"
 #include "scene/coordinatesystem.h"
@@ -28,8 +29,6 @@ namespace Zel3D {
 
 namespace {
 
-enum DrawingList : std::size_t { NormalsList, DataList };
-
 /// Logical pixels between the title and the numbers of a standing legend.
 constexpr double titleGap = 16.0;
 
@@ -42,6 +41,7 @@ constexpr unsigned int listState = GL_ENABLE_BIT | GL_LINE_BIT | GL_POINT_BIT | 
 BasePlot::BasePlot(const QString& name, const QString& organizationName, const QString& applicationName,
                    QWidget* parent, const QGLWidget* shareWidget, Qt::WindowFlags flags)
     : ZelGLWidget(name, organizationName, applicationName, parent, shareWidget, flags),
+      lists(std::make_unique<PlotLists>()),
       pickPass(std::make_unique<PickPass>()),
       pickHighlight(std::make_unique<PickHighlight>()),
       coordinateSystem(std::make_unique<CoordinateSystem>(QVector3D(), QVector3D())),
@@ -71,17 +71,18 @@ BasePlot::BasePlot(const QString& name, const QString& organizationName, const Q
     createActions();
     properties = std::make_unique<PlotProperties>(*this);
     // The hidden line style fills the surface with the background colour.
-    connect(this, &ZelGLWidget::backgroundColorChanged, this, [this] { markDataChanged(); });
+    connect(this, &ZelGLWidget::backgroundColorChanged, this, [this] {
+        if (isGeometryInput(BackgroundInput))
+            markDataChanged();
+    });
 }
 
 BasePlot::~BasePlot()
 {
     if (isValid()) {
         makeCurrent();
-        for (DisplayList& list : drawingLists)
-            list.remove();
-        for (DisplayList& list : selectionLists)
-            list.remove();
+        lists->drawing.remove();
+        lists->selection.remove();
     }
     qDeleteAll(additions);
 }
@@ -99,14 +100,12 @@ QSize BasePlot::minimumSizeHint() const
 void BasePlot::initializeGL()
 {
     ZelGLWidget::initializeGL();
-    const bool sameContext = listContext == context();
-    if (sameContext && drawingLists[DataList].exists())
+    const bool sameContext = lists->context == context();
+    if (sameContext && lists->drawing.data.exists())
         return;
     // The context is new to the lists: what was compiled went with the old one.
-    for (DisplayList& list : drawingLists)
-        list.forget();
-    for (DisplayList& list : selectionLists)
-        list.forget();
+    lists->drawing.forget();
+    lists->selection.forget();
     if (!data)
         return;
     const BusyScope rebuilding(*this);
@@ -174,8 +173,8 @@ void BasePlot::drawData()
     const AttributeScope attributes(listState);
     if (isLighting())
         glEnable(GL_NORMALIZE);
-    for (const DisplayList& list : drawingLists)
-        list.call();
+    lists->drawing.normals.call();
+    lists->drawing.data.call();
     drawArrays();
 }
 
@@ -204,10 +203,36 @@ void BasePlot::applyShading() const
 
 void BasePlot::rebuildWhatChanged()
 {
-    if (dataDirty)
+    if (lists->isDataOld)
         updateData();
-    if (normalsDirty)
+    if (lists->isMeshOld)
+        updateMesh();
+    if (lists->areNormalsOld)
         updateNormals();
+}
+
+void BasePlot::markDataChanged()
+{
+    lists->isDataOld = lists->isSelectionOld = true;
+}
+
+void BasePlot::markAllChanged()
+{
+    markDataChanged();
+    lists->areNormalsOld = true;
+}
+
+void BasePlot::markMeshChanged(GeometryInput input)
+{
+    lists->isMeshOld = true;
+    if (isGeometryInput(input))
+        markDataChanged();
+}
+
+/// What can be picked has no colours.
+void BasePlot::markColorsChanged()
+{
+    lists->isDataOld = lists->areNormalsOld = true;
 }
 
 void BasePlot::warnWithoutGradient()
@@ -255,8 +280,8 @@ void BasePlot::updateData()
     if (!isValid())
         return;
     makeCurrent();
-    dataDirty = false;
-    listContext = context();
+    lists->isDataOld = false;
+    lists->context = context();
     glMatrixMode(GL_MODELVIEW);
     const GLMode depthTest(GL_DEPTH_TEST, true, false);
     const GLMode lineSmooth(GL_LINE_SMOOTH, true, false);
@@ -264,10 +289,32 @@ void BasePlot::updateData()
     // An empty container has no spacing: a plot without data keeps its radius and has nothing to save.
     if (data && !data->isEmpty())
         settings->getCylinder().setRadius(0.5 * std::min(data->getStepX(), data->getStepY()));
-    drawingLists[DataList].compile([this] {
+    lists->drawing.isMeshApart = false;
+    lists->drawing.mesh.reserve();
+    lists->drawing.data.compile([this] {
         createAdditions();
         createData();
     });
+    updateMesh();
+}
+
+void BasePlot::sendMesh()
+{
+    lists->drawing.isMeshApart = true;
+    lists->drawing.mesh.call();
+}
+
+/// With the context of the lists.
+void BasePlot::updateMesh()
+{
+    lists->isMeshOld = false;
+    if (!isValid())
+        return;
+    makeCurrent();
+    if (lists->drawing.isMeshApart)
+        lists->drawing.mesh.compile([this] { createMesh(); });
+    else
+        lists->drawing.mesh.remove();
 }
 
 void BasePlot::updateNormals()
@@ -275,20 +322,22 @@ void BasePlot::updateNormals()
     if (!isValid())
         return;
     makeCurrent();
-    normalsDirty = false;
-    drawingLists[NormalsList].remove();
+    lists->areNormalsOld = false;
+    lists->drawing.normals.remove();
     if (!settings->getNormals().isVisible() || !data)
         return;
-    listContext = context();
+    lists->context = context();
     glMatrixMode(GL_MODELVIEW);
-    drawingLists[NormalsList].compile([this] { createNormals(); });
+    lists->drawing.normals.compile([this] { createNormals(); });
 }
 
 void BasePlot::removeDataList()
 {
     if (isValid())
         makeCurrent();
-    drawingLists[DataList].remove();
+    lists->drawing.data.remove();
+    lists->drawing.mesh.remove();
+    lists->drawing.isMeshApart = false;
 }
 
 void BasePlot::createAdditions()
@@ -302,6 +351,13 @@ void BasePlot::calculateHull() {}
 void BasePlot::createData() {}
 
 void BasePlot::drawArrays() {}
+
+void BasePlot::createMesh() {}
+
+bool BasePlot::isGeometryInput(GeometryInput /*input*/) const
+{
+    return true;
+}
 
 void BasePlot::createAddition(Addition& /*addition*/) {}
 

@@ -3,7 +3,6 @@
 #include "core/export.h"
 #include "core/types.h"
 #include "plots/plottypes.h"
-#include "view/displaylist.h"
 #include "view/zelglwidget.h"
 
 #include <QGradient>
@@ -32,6 +31,7 @@ class PickPass;
 class PickPoints;
 class PlotActions;
 class PlotProperties;
+struct PlotLists;
 class StyleAction;
 class SettingsDialogOptions;
 class Title;
@@ -348,6 +348,11 @@ protected:
     /// Draws what the subclass keeps out of the display lists, behind them; here nothing. The state is put
     /// back afterwards.
     virtual void drawArrays();
+    /// Sends the mesh lines, for a createData() that calls sendMesh(); here nothing.
+    virtual void createMesh();
+    /// Whether createData() and createAdditions() use a value in the state that the plot is in, so that its
+    /// change compiles the geometry again. True here; a subclass that knows better saves time.
+    virtual bool isGeometryInput(GeometryInput input) const;
 
 signals:
     void plotStyleChanged(int style);
@@ -435,9 +440,11 @@ protected:
     /// Frees the list of the data and additions; the context is made current.
     void removeDataList();
     /// The geometry is compiled again at the next paint.
-    void markDataChanged() { dataDirty = selectionDirty = true; }
+    void markDataChanged();
     /// The same, and the normals too: their places or colours changed.
-    void markAllChanged() { dataDirty = normalsDirty = selectionDirty = true; }
+    void markAllChanged();
+    /// For createData(): what createMesh() sends is drawn here. A change of the mesh compiles it alone.
+    void sendMesh();
 
 private:
     StandardLook getStandardLook() const { return standardLook; }
@@ -451,6 +458,9 @@ private:
     void createActions();
     void repaintLegend();
     void rebuildWhatChanged();
+    void updateMesh();
+    void markMeshChanged(GeometryInput input);
+    void markColorsChanged();
     void compileSelection();
     void highlightPick(const SelectedObjectsInfo& info);
     void warnWithoutGradient();
@@ -470,18 +480,11 @@ private:
 
     Data* data = nullptr;
     std::unique_ptr<DataColor> dataColor;
-    std::array<DisplayList, 2> drawingLists; ///< normals; data and additions
-    std::array<DisplayList, 1> selectionLists;
+    std::unique_ptr<PlotLists> lists;
     std::unique_ptr<PickPass> pickPass;
     std::unique_ptr<PickHighlight> pickHighlight;
-    const QGLContext* listContext = nullptr; ///< where the lists live
-    std::array<DisplayList, 2> pictureLists; ///< those of the window while a picture is drawn
-    const QGLContext* pictureContext = nullptr;
     std::unique_ptr<DrawTarget> pictureTarget; ///< while pictures are made
     const PictureFrame* picture = nullptr;     ///< while a picture is drawn
-    bool dataDirty = false;
-    bool normalsDirty = false;
-    bool selectionDirty = true;
     bool warnedWithoutGradient = false;
     bool warnedOfLostValues = false;
     std::unique_ptr<Addition> styleAddition;

@@ -5,6 +5,7 @@
 #include "plots/baseplotsettings.h"
 #include "plots/pickhighlight.h"
 #include "plots/pickpass.h"
+#include "plots/plotlists.h"
 #include "view/glmode.h"
 #include "view/glscopes.h"
 
@@ -13,7 +14,7 @@ namespace Zel3D {
 void BasePlot::updateSelection()
 {
     // Made by the next pick, if not now.
-    selectionDirty = true;
+    lists->isSelectionOld = true;
     if (!isSelecting() || !isValid())
         return;
     makeCurrent();
@@ -23,12 +24,12 @@ void BasePlot::updateSelection()
 
 void BasePlot::compileSelection()
 {
-    selectionDirty = false;
-    listContext = context();
+    lists->isSelectionOld = false;
+    lists->context = context();
     selectableObjects.clear();
     pickPass->setPoints(createPickPoints());
     glMatrixMode(GL_MODELVIEW);
-    selectionLists[0].compile([this] {
+    lists->selection.compile([this] {
         selectAdditions();
         selectData();
     });
@@ -40,7 +41,7 @@ int BasePlot::prepareSelection(const QPointF& position)
     // A pick sees what the next frame will show.
     if (!isBusy())
         rebuildWhatChanged();
-    if (selectionDirty)
+    if (lists->isSelectionOld)
         compileSelection();
     const int others = selectionCapacity - pickPass->size();
     return others + pickPass->find(PickVolume(pickMatrix(position)));
@@ -49,8 +50,7 @@ int BasePlot::prepareSelection(const QPointF& position)
 void BasePlot::select()
 {
     const ModelViewScope matrix;
-    for (const DisplayList& list : selectionLists)
-        list.call();
+    lists->selection.call();
     const GLMode offset(GL_POLYGON_OFFSET_FILL, true, false);
     const GLMode smooth(GL_LINE_SMOOTH, settings->getMesh().isSmooth(), false);
     pickPass->send(selectableObjects);
@@ -75,7 +75,7 @@ void BasePlot::clearPickPoints()
 {
     pickPass->clear();
     selectableObjects.clear();
-    selectionDirty = true;
+    lists->isSelectionOld = true;
 }
 
 std::unique_ptr<PickPoints> BasePlot::createPickPoints() const

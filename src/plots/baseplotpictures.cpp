@@ -2,6 +2,7 @@
 
 #include "plots/baseplot.h"
 #include "plots/pictureframe.h"
+#include "plots/plotlists.h"
 #include "scene/coordinatesystem.h"
 #include "scene/drawtarget.h"
 #include "scene/edgepolicy.h"
@@ -58,12 +59,12 @@ bool BasePlot::beginPicture(double strokeScale, bool tellStrokes)
     pictureTarget = std::make_unique<DrawTarget>();
     pictureTarget->strokeScale = strokeScale;
     pictureTarget->tellStrokes = tellStrokes;
-    pictureContext = context();
+    lists->pictureContext = context();
     const DrawTargetScope target(*pictureTarget);
-    std::swap(drawingLists, pictureLists);
+    std::swap(lists->drawing, lists->picture);
     updateData();
     updateNormals();
-    std::swap(drawingLists, pictureLists);
+    std::swap(lists->drawing, lists->picture);
     return true;
 }
 
@@ -72,18 +73,16 @@ void BasePlot::endPicture()
     if (!pictureTarget)
         return;
     makeCurrent();
-    for (DisplayList& list : pictureLists) {
-        if (pictureContext == context())
-            list.remove();
-        else
-            list.forget();
-    }
+    if (lists->pictureContext == context())
+        lists->picture.remove();
+    else
+        lists->picture.forget();
     pictureTarget.reset();
 }
 
 void BasePlot::paintPicture(const PictureFrame& frame)
 {
-    if (!pictureTarget || pictureContext != context() || frame.tile.isEmpty() || frame.size.isEmpty())
+    if (!pictureTarget || lists->pictureContext != context() || frame.tile.isEmpty() || frame.size.isEmpty())
         return;
     DrawTarget target = *pictureTarget;
     target.whole = frame.size;
@@ -93,14 +92,14 @@ void BasePlot::paintPicture(const PictureFrame& frame)
     const QScopedValueRollback<const PictureFrame*> drawn(picture, &frame);
     // The edges of the window's next frame go by those of its last one.
     const EdgeChoice windowEdges = *edges;
-    std::swap(drawingLists, pictureLists);
+    std::swap(lists->drawing, lists->picture);
     setFrameAspect(double(frame.size.width()) / frame.size.height());
     glViewport(0, 0, frame.tile.width(), frame.tile.height());
     glMatrixMode(GL_PROJECTION);
     glLoadMatrixd(tileMatrix(target).data());
     paintFrame(frame.background, isShowLights() && frame.parts.testFlag(PictureFrame::Data));
     setFrameAspect(0.0);
-    std::swap(drawingLists, pictureLists);
+    std::swap(lists->drawing, lists->picture);
     *edges = windowEdges;
 }
 

@@ -79,6 +79,8 @@ signals:
 protected:
     void calculateHull() override;
     void drawArrays() override;
+    void createMesh() override;
+    bool isGeometryInput(GeometryInput input) const override;
     void createData() override;
     void createNormals() override;
     void createAddition(Addition& addition) override;

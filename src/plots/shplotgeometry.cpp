@@ -74,6 +74,25 @@ void SHPlot::createNormals()
         createCellNormals();
 }
 
+void SHPlot::createMesh()
+{
+    if (getData() == gridData.get())
+        drawGridMesh(nodeStep());
+    else if (getData() == cellData.get())
+        drawCellMesh();
+}
+
+bool SHPlot::isGeometryInput(GeometryInput input) const
+{
+    const int style = getSettings().getStyle();
+    // A marker may use anything of its plot.
+    if (!getAdditions().isEmpty() || style == CustomMarkers)
+        return true;
+    if (input == BackgroundInput)
+        return style == HiddenLine;
+    return input == MeshColorInput && style == Histogram;
+}
+
 bool SHPlot::drawMarkerStyle()
 {
     switch (getSettings().getStyle()) {
@@ -114,7 +133,7 @@ void SHPlot::createGridData()
     if (style != Wireframe)
         drawGridSurface(style);
     if (hasMesh(style))
-        drawGridMesh(nodeStep());
+        sendMesh();
 }
 
 bool SHPlot::areArraysWanted() const
@@ -263,14 +282,13 @@ void SHPlot::createCellData()
     createCellViewProjection();
     if (drawMarkerStyle())
         return;
-    BaseDraw::setGLLineWidth(float(getSettings().getMesh().getLineWidth()));
     const GLMode offset(GL_POLYGON_OFFSET_FILL, true, false);
     BaseDraw::setGLPolygonOffset(float(getSettings().getPolygonOffset()), 1.0F);
     const BlendScope blending;
     if (style != Wireframe)
         drawCellSurface(style);
     if (hasMesh(style))
-        drawCellMesh();
+        sendMesh();
 }
 
 // Each vertex once, although several cells send it.
@@ -314,6 +332,7 @@ void SHPlot::drawCellSurface(int style)
 
 void SHPlot::drawCellMesh()
 {
+    BaseDraw::setGLLineWidth(float(getSettings().getMesh().getLineWidth()));
     sendColor(getSettings().getMesh().getColor());
     for (const QVector<unsigned int>& cell : cellData->getCells()) {
         if (!cellIsWhole(cell))
