@@ -1,20 +1,17 @@
 // Life, paint order and display lists of a plot.
 
 #include "plots/baseplot.h"
+#include "plots/plotparts.h"
 
 #include "core/data.h"
 #include "core/datacolor.h"
 #include "plots/addition.h"
 #include "plots/baseplotsettings.h"
-#include "plots/pickhighlight.h"
-#include "plots/pickpass.h"
 #include "plots/pictureframe.h"
 #include "plots/plotactions.h"
 #include "plots/plotlists.h"
-#include "plots/plotproperties.h"
 #include "plots/settingsdialogoptions.h"
 #include "scene/coordinatesystem.h"
-#include "scene/drawtarget.h"
 #include "scene/facepolicy.h"
 #include "scene/legend.h"
 #include "scene/title.h"
@@ -42,12 +39,10 @@ BasePlot::BasePlot(const QString& name, const QString& organizationName, const Q
                    QWidget* parent, const QGLWidget* shareWidget, Qt::WindowFlags flags)
     : ZelGLWidget(name, organizationName, applicationName, parent, shareWidget, flags),
       lists(std::make_unique<PlotLists>()),
-      pickPass(std::make_unique<PickPass>()),
-      pickHighlight(std::make_unique<PickHighlight>()),
+      parts(std::make_unique<PlotParts>()),
       coordinateSystem(std::make_unique<CoordinateSystem>(QVector3D(), QVector3D())),
       title(std::make_unique<Title>()),
       legend(std::make_unique<Legend>()),
-      edges(std::make_unique<EdgeChoice>()),
       settings(std::make_unique<BasePlotSettings>()),
       actions(std::make_unique<PlotActions>(*this))
 {
@@ -69,7 +64,7 @@ BasePlot::BasePlot(const QString& name, const QString& organizationName, const Q
     setDataColor(new DataColor(this, QString(), QLinearGradient()));
     connect(this, &ZelGLWidget::selectedObject, this, &BasePlot::highlightPick);
     createActions();
-    properties = std::make_unique<PlotProperties>(*this);
+    parts->properties = std::make_unique<PlotProperties>(*this);
     // The hidden line style fills the surface with the background colour.
     connect(this, &ZelGLWidget::backgroundColorChanged, this, [this] {
         if (isGeometryInput(BackgroundInput))
@@ -82,7 +77,9 @@ BasePlot::~BasePlot()
     if (isValid()) {
         makeCurrent();
         lists->drawing.remove();
+        lists->preview.remove();
         lists->selection.remove();
+        parts->hoverImage.clear();
     }
     qDeleteAll(additions);
 }
@@ -105,6 +102,9 @@ void BasePlot::initializeGL()
         return;
     // The context is new to the lists: what was compiled went with the old one.
     lists->drawing.forget();
+    lists->preview.forget();
+    parts->preview.isListed = false;
+    parts->hoverImage.clear();
     lists->selection.forget();
     if (!data)
         return;
@@ -116,7 +116,7 @@ void BasePlot::initializeGL()
 
 void BasePlot::drawWithoutTransform()
 {
-    if (picture && !picture->parts.testFlag(PictureFrame::Overlay))
+    if (parts->picture && !parts->picture->parts.testFlag(PictureFrame::Overlay))
         return;
     const double ratio = textRatio();
     title->setPixelRatio(ratio);
@@ -124,8 +124,16 @@ void BasePlot::drawWithoutTransform()
     // Of what is painted on, which need not be the window.
     const std::array<int, 4> viewport = currentViewFrame().viewport;
     legend->setReservedTop(reservedTop(QSize(viewport[2], viewport[3])));
+    const bool pointing = legend->isValueShown() && parts->isMarkHeldBack;
+    const double value = legend->getValue();
+    if (pointing)
+        legend->hideValue();
     legend->draw();
+    if (pointing)
+        legend->showValue(value);
     title->draw();
+    if (parts->preview.isShown && !parts->picture)
+        parts->preview.drawMark(getBackgroundColor(), ratio);
 }
 
 double BasePlot::reservedTop(const QSize& window)
@@ -149,22 +157,28 @@ double BasePlot::reservedTop(const QSize& window)
 void BasePlot::paintGL()
 {
     // Before the camera is set: a rebuilt hull may change the scale.
-    if (!isBusy())
+    if (!isBusy()) {
         rebuildWhatChanged();
-    ZelGLWidget::paintGL();
+        preparePreview();
+    }
+    if (parts->isHoverFrame && drawHovered())
+        return;
+    restartFrameTime();
+    drawUnhovered();
 }
 
 void BasePlot::draw()
 {
     warnWithoutGradient();
     const ModelViewScope matrix;
-    if (picture) {
+    if (parts->picture) {
         drawTile();
         return;
     }
     drawData();
     drawCoordinateSystem();
-    pickHighlight->draw(devicePixelRatioF());
+    if (!parts->isMarkHeldBack)
+        parts->pickHighlight.draw(devicePixelRatioF());
 }
 
 void BasePlot::drawData()
@@ -173,9 +187,12 @@ void BasePlot::drawData()
     const AttributeScope attributes(listState);
     if (isLighting())
         glEnable(GL_NORMALIZE);
-    lists->drawing.normals.call();
-    lists->drawing.data.call();
-    drawArrays();
+    const bool coarse = parts->preview.isShown && !parts->picture;
+    const PlotLists::Drawing& drawn = coarse ? lists->preview : lists->drawing;
+    drawn.normals.call();
+    drawn.data.call();
+    if (!coarse)
+        drawArrays();
 }
 
 void BasePlot::drawCoordinateSystem()
@@ -183,8 +200,8 @@ void BasePlot::drawCoordinateSystem()
     coordinateSystem->setPixelRatio(textRatio());
     coordinateSystem->setViewScale(getScale());
     if (automaticEdges) {
-        *edges = chooseEdges(currentViewFrame(), first(), second(), edges.get());
-        coordinateSystem->setVisibleEdges(*edges);
+        parts->edges = chooseEdges(currentViewFrame(), first(), second(), &parts->edges);
+        coordinateSystem->setVisibleEdges(parts->edges);
     }
     const int faces = coordinateSystem->getSettings().getGridStyle();
     coordinateSystem->setDrawnFaces(automaticFaces ? facesBehind(currentViewFrame(), first(), second(), faces)
@@ -237,9 +254,9 @@ void BasePlot::markColorsChanged()
 
 void BasePlot::warnWithoutGradient()
 {
-    if (warnedWithoutGradient || !data || data->isEmpty() || settings->getStyle() == 0 || canDrawData())
+    if (parts->hasWarnedOfGradient || !data || data->isEmpty() || settings->getStyle() == 0 || canDrawData())
         return;
-    warnedWithoutGradient = true;
+    parts->hasWarnedOfGradient = true;
     qWarning(
         "Plot \"%s\": its gradient has no colors, so nothing is drawn; call setGradient(name, gradient).",
         qPrintable(objectName()));
@@ -247,9 +264,9 @@ void BasePlot::warnWithoutGradient()
 
 void BasePlot::warnOfLostValues(int count)
 {
-    if (count == 0 || warnedOfLostValues)
+    if (count == 0 || parts->hasWarnedOfLostValues)
         return;
-    warnedOfLostValues = true;
+    parts->hasWarnedOfLostValues = true;
     qWarning(
         "Plot \"%s\": %d points have a value at or below zero in a logarithmic direction; they are missing.",
         qPrintable(objectName()), count);
@@ -282,6 +299,7 @@ void BasePlot::updateData()
     makeCurrent();
     lists->isDataOld = false;
     lists->context = context();
+    removePreview();
     glMatrixMode(GL_MODELVIEW);
     const GLMode depthTest(GL_DEPTH_TEST, true, false);
     const GLMode lineSmooth(GL_LINE_SMOOTH, true, false);
@@ -311,6 +329,7 @@ void BasePlot::updateMesh()
     if (!isValid())
         return;
     makeCurrent();
+    removePreview();
     if (lists->drawing.isMeshApart)
         lists->drawing.mesh.compile([this] { createMesh(); });
     else
@@ -323,6 +342,7 @@ void BasePlot::updateNormals()
         return;
     makeCurrent();
     lists->areNormalsOld = false;
+    removePreview();
     lists->drawing.normals.remove();
     if (!settings->getNormals().isVisible() || !data)
         return;
@@ -335,6 +355,7 @@ void BasePlot::removeDataList()
 {
     if (isValid())
         makeCurrent();
+    removePreview();
     lists->drawing.data.remove();
     lists->drawing.mesh.remove();
     lists->drawing.isMeshApart = false;
@@ -372,7 +393,7 @@ void BasePlot::resetNeedSave()
 void BasePlot::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_A && (getHotKeyMask() & AutoScaleHotKey))
-        slotSetAutoScaling(!autoScaling);
+        slotSetAutoScaling(!isAutoScaling());
     if (event->key() == Qt::Key_N && (getHotKeyMask() & NormalsHotKey))
         slotShowNormals(!settings->getNormals().isVisible());
     ZelGLWidget::keyPressEvent(event);

@@ -8,7 +8,6 @@
 #include <QGradient>
 #include <QList>
 #include <QMap>
-#include <QSet>
 #include <QVariant>
 
 #include <array>
@@ -26,18 +25,15 @@ class Data;
 class DataColor;
 class Label;
 class Legend;
-class PickHighlight;
-class PickPass;
 class PickPoints;
 class PlotActions;
-class PlotProperties;
 struct PlotLists;
+struct PlotParts;
 class StyleAction;
 class SettingsDialogOptions;
 class Title;
-struct DrawTarget;
-struct EdgeChoice;
 struct PictureFrame;
+using HoverKey = std::array<double, 14>;
 
 /// The widget that every plot is: the view plus data colouring, additions, display lists, automatic scaling
 /// and the plot's own settings. The subclass supplies the data and the geometry of each plot style.
@@ -94,11 +90,13 @@ public:
     const Parallelepiped& getHull() const { return hull; }
     const Parallelepiped& getFixedHull() const { return fixedHull; }
     const Pair<double>& getGradientRange() const { return gradientRange; }
-    bool isAutoScaling() const { return autoScaling; }
+    bool isAutoScaling() const { return boxScaling == CubeScaling; }
     BoxScaling getBoxScaling() const { return boxScaling; }
     bool isAutomaticEdges() const { return automaticEdges; }
     bool isAutomaticFaces() const { return automaticFaces; }
     bool isPickHighlight() const;
+    bool isPreviewing() const;
+    bool isPreviewShown() const; ///< whether the last frame was a preview
     bool isDataCentred() const { return dataCentred; }
     /// What was subtracted from the data in the plot before they were drawn; see setDataCentred(). The hull,
     /// the range of the colours and the places of markers count from it; axes, legend and picks state the
@@ -132,7 +130,6 @@ public:
     /// The exclusive actions of the plot styles, owned by the plot.
     QList<StyleAction*> getStyleActions() const;
     /// Check the actions that stand for the grid style and the plot style in force, without choosing them.
-    /// Only needed after changes past the plot's own setters.
     void updateGridStyleToolBar();
     void updatePlotStyleToolBar();
     /// @}
@@ -182,6 +179,10 @@ public:
     bool setAutomaticFaces(bool on);
     /// On: the picked point is marked in the scene. Off by default.
     bool setPickHighlight(bool on);
+    /// On: while a person turns, shifts or zooms a grid whose frames take longer than 50 ms, fewer nodes are
+    /// drawn and the word "Preview"; everything when the hand rests. Never in pictures and picks. Off by
+    /// default and not persisted.
+    bool setPreviewing(bool on);
     /// On: the plain values of a direction become decimal exponents while data are loaded, and its scale
     /// logarithmic. Values at or below zero are then missing. Holds from the next load on. No signal of its
     /// own.
@@ -353,6 +354,9 @@ protected:
     /// Whether createData() and createAdditions() use a value in the state that the plot is in, so that its
     /// change compiles the geometry again. True here; a subclass that knows better saves time.
     virtual bool isGeometryInput(GeometryInput input) const;
+    /// By what the node step can be multiplied for a preview so that the data are still recognised; 1, here,
+    /// for no preview.
+    virtual int getCoarsest() const;
 
 signals:
     void plotStyleChanged(int style);
@@ -378,9 +382,8 @@ signals:
     void cylinderMultiplier(double factor);
     void dotSizeChanged(double pixels);
     void dotSmoothChanged(bool on);
-    /// For hosts and dialogs; the plot itself never emits it.
+    /// For hosts and dialogs; the plot itself never emits these two.
     void autoScalingChanged(bool on);
-    /// For hosts and dialogs; the plot itself never emits it.
     void legendPositionChanged(unsigned int position);
     void minorIntervalChanged(unsigned int count);
     void majorIntervalChanged(unsigned int count);
@@ -389,6 +392,7 @@ signals:
     void automaticEdgesChanged(bool on);
     void automaticFacesChanged(bool on);
     void pickHighlightChanged(bool on);
+    void previewingChanged(bool on);
     void cylinderOpacityChanged(int percent);
     void gradientsChanged();
     /// By setMarkers() alone.
@@ -398,6 +402,8 @@ protected:
     void initializeGL() override;
     void paintGL() override;
     int prepareSelection(const QPointF& position) override;
+    void handlingChanged() override;
+    void frameDrawn(double milliseconds) override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
@@ -445,6 +451,8 @@ protected:
     void markAllChanged();
     /// For createData(): what createMesh() sends is drawn here. A change of the mesh compiles it alone.
     void sendMesh();
+    /// What createData(), createMesh() and createNormals() multiply the node step with.
+    int getCoarseness() const;
 
 private:
     StandardLook getStandardLook() const { return standardLook; }
@@ -456,9 +464,15 @@ private:
     void writeBackgroundColor(const QColor& color);
 
     void createActions();
-    void repaintLegend();
     void rebuildWhatChanged();
     void updateMesh();
+    void preparePreview();
+    void removePreview();
+    void repaintMark();
+    HoverKey hoverKey() const;
+    void drawUnhovered();
+    bool drawHovered();
+    void drawMarks();
     void markMeshChanged(GeometryInput input);
     void markColorsChanged();
     void compileSelection();
@@ -481,25 +495,15 @@ private:
     Data* data = nullptr;
     std::unique_ptr<DataColor> dataColor;
     std::unique_ptr<PlotLists> lists;
-    std::unique_ptr<PickPass> pickPass;
-    std::unique_ptr<PickHighlight> pickHighlight;
-    std::unique_ptr<DrawTarget> pictureTarget; ///< while pictures are made
-    const PictureFrame* picture = nullptr;     ///< while a picture is drawn
-    bool warnedWithoutGradient = false;
-    bool warnedOfLostValues = false;
+    std::unique_ptr<PlotParts> parts;
     std::unique_ptr<Addition> styleAddition;
     QList<Addition*> additions;
-    QSet<const Addition*> addedMarkers; ///< those of them that setMarkers() made
     QGradient currentGradient;
-    ValueXYZ<double> userScale;
-    ValueXYZ<double> automaticScale;
-    bool autoScaling = false;
     BoxScaling boxScaling = ManualScaling;
     StandardLook standardLook = NoLook;
     std::unique_ptr<CoordinateSystem> coordinateSystem;
     std::unique_ptr<Title> title;
     std::unique_ptr<Legend> legend;
-    std::unique_ptr<EdgeChoice> edges; ///< of the last frame, while they are chosen automatically
     bool automaticEdges = true;
     bool automaticFaces = false;
     bool dataCentred = false;
@@ -511,7 +515,6 @@ private:
     Parallelepiped fixedHull;
     Pair<double> gradientRange;
     std::unique_ptr<PlotActions> actions;
-    std::unique_ptr<PlotProperties> properties;
 };
 
 } // namespace Zel3D

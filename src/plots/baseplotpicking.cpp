@@ -3,9 +3,8 @@
 #include "plots/addition.h"
 #include "plots/baseplot.h"
 #include "plots/baseplotsettings.h"
-#include "plots/pickhighlight.h"
-#include "plots/pickpass.h"
 #include "plots/plotlists.h"
+#include "plots/plotparts.h"
 #include "view/glmode.h"
 #include "view/glscopes.h"
 
@@ -27,7 +26,7 @@ void BasePlot::compileSelection()
     lists->isSelectionOld = false;
     lists->context = context();
     selectableObjects.clear();
-    pickPass->setPoints(createPickPoints());
+    parts->pickPass.setPoints(createPickPoints());
     glMatrixMode(GL_MODELVIEW);
     lists->selection.compile([this] {
         selectAdditions();
@@ -43,8 +42,8 @@ int BasePlot::prepareSelection(const QPointF& position)
         rebuildWhatChanged();
     if (lists->isSelectionOld)
         compileSelection();
-    const int others = selectionCapacity - pickPass->size();
-    return others + pickPass->find(PickVolume(pickMatrix(position)));
+    const int others = selectionCapacity - parts->pickPass.size();
+    return others + parts->pickPass.find(PickVolume(pickMatrix(position)));
 }
 
 void BasePlot::select()
@@ -53,27 +52,27 @@ void BasePlot::select()
     lists->selection.call();
     const GLMode offset(GL_POLYGON_OFFSET_FILL, true, false);
     const GLMode smooth(GL_LINE_SMOOTH, settings->getMesh().isSmooth(), false);
-    pickPass->send(selectableObjects);
+    parts->pickPass.send(selectableObjects);
 }
 
 void BasePlot::selectMarkers(const Addition& marker)
 {
-    pickPass->addMarkers(marker, selectableObjects.size());
+    parts->pickPass.addMarkers(marker, selectableObjects.size());
 }
 
 void BasePlot::selectProjections(const Addition& marker)
 {
-    pickPass->addProjections(marker, getViewProjectionZ(), selectableObjects.size());
+    parts->pickPass.addProjections(marker, getViewProjectionZ(), selectableObjects.size());
 }
 
 void BasePlot::setPickEverything(bool on)
 {
-    pickPass->setEverything(on);
+    parts->pickPass.setEverything(on);
 }
 
 void BasePlot::clearPickPoints()
 {
-    pickPass->clear();
+    parts->pickPass.clear();
     selectableObjects.clear();
     lists->isSelectionOld = true;
 }
@@ -113,12 +112,12 @@ int BasePlot::getNumberSelectedAddition(Addition& /*addition*/)
 
 bool BasePlot::isPickHighlight() const
 {
-    return pickHighlight->isVisible();
+    return parts->pickHighlight.isVisible();
 }
 
 bool BasePlot::setPickHighlight(bool on)
 {
-    if (!pickHighlight->setVisible(on))
+    if (!parts->pickHighlight.setVisible(on))
         return false;
     emit pickHighlightChanged(on);
     return true;
@@ -133,10 +132,9 @@ void BasePlot::slotSetPickHighlight(bool on)
 void BasePlot::highlightPick(const SelectedObjectsInfo& info)
 {
     QVector3D place;
-    const bool found = info.valid && pickPass->position(getPickedName(), place);
-    // A turning view repaints anyway.
-    if ((found ? pickHighlight->show(place) : pickHighlight->hide()) && isInitialized() && !isAutoRotating())
-        update();
+    const bool found = info.valid && parts->pickPass.position(getPickedName(), place);
+    if (found ? parts->pickHighlight.show(place) : parts->pickHighlight.hide())
+        repaintMark();
 }
 
 } // namespace Zel3D

@@ -6,6 +6,7 @@
 #include "plots/baseplot.h"
 #include "plots/baseplotsettings.h"
 #include "plots/plotlists.h"
+#include "plots/plotparts.h"
 #include "plots/settingsdialogoptions.h"
 #include "scene/coordinatesystem.h"
 #include "scene/legend.h"
@@ -310,7 +311,7 @@ bool BasePlot::setGradients(const QString& current, const QMap<QString, QGradien
 
 bool BasePlot::setAutoScaling(bool on)
 {
-    return autoScaling != on && setBoxScaling(on ? CubeScaling : ManualScaling);
+    return isAutoScaling() != on && setBoxScaling(on ? CubeScaling : ManualScaling);
 }
 
 bool BasePlot::setBoxScaling(BoxScaling scaling)
@@ -318,9 +319,8 @@ bool BasePlot::setBoxScaling(BoxScaling scaling)
     if (boxScaling == scaling)
         return false;
     if (boxScaling == ManualScaling)
-        userScale = getScale();
+        parts->userScale = getScale();
     boxScaling = scaling;
-    autoScaling = scaling == CubeScaling;
     updateAutoScale();
     emit boxScalingChanged(scaling);
     return true;
@@ -333,7 +333,7 @@ void BasePlot::setDataColor(DataColor* coloring)
         dataColor.reset(coloring);
     currentGradient = dataColor ? dataColor->getGradient() : QGradient();
     legend->setGradient(currentGradient);
-    warnedWithoutGradient = false;
+    parts->hasWarnedOfGradient = false;
     markColorsChanged();
     // Without colours there is nothing to pick.
     lists->isSelectionOld = lists->isSelectionOld || drawable != canDrawData();

@@ -23,6 +23,7 @@ struct PlotLists
     };
 
     Drawing drawing;
+    Drawing preview; ///< the same with fewer nodes
     Drawing picture; ///< while a picture is drawn, those of the window
     DisplayList selection;
     const QGLContext* context = nullptr; ///< where the lists live

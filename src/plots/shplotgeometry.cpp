@@ -46,6 +46,9 @@ void sendColor(const ColorChannels& color)
     glColor4d(color[0], color[1], color[2], color[3]);
 }
 
+/// Nodes that the shorter side of a grid keeps at least in a preview.
+constexpr int previewNodes = 32;
+
 /// Not a mode that OpenGL knows: it rejects the call and the polygon mode in force stays.
 constexpr unsigned int keptPolygonMode = 7;
 
@@ -53,12 +56,28 @@ constexpr unsigned int keptPolygonMode = 7;
 
 int SHPlot::nodeStep() const
 {
-    return std::max(getSettings().getResolution(), 1);
+    return std::max(getSettings().getResolution(), 1) * getCoarseness();
+}
+
+int SHPlot::getCoarsest() const
+{
+    if (getData() != gridData.get() || getSettings().getStyle() == NoPlot)
+        return 1;
+    const auto shorter = int(std::min(gridData->columns(), gridData->rows()));
+    return std::max(shorter / (previewNodes * std::max(getSettings().getResolution(), 1)), 1);
+}
+
+int SHPlot::markerStep(const Addition& marker) const
+{
+    // Additions are not what makes a grid large.
+    const bool isAdded = std::any_of(getAdditions().begin(), getAdditions().end(),
+                                     [&marker](const Addition* held) { return held == &marker; });
+    return getSettings().getResolution() * (isAdded ? 1 : getCoarseness());
 }
 
 void SHPlot::createData()
 {
-    if (!areArraysWanted())
+    if (!areArraysWanted() && getCoarseness() == 1)
         gridArrays->clear();
     if (getData() == gridData.get())
         createGridData();
@@ -138,8 +157,8 @@ void SHPlot::createGridData()
 
 bool SHPlot::areArraysWanted() const
 {
-    return dataChanging && canDrawData() && getData() == gridData.get() && !gridData->isEmpty() &&
-           !gridData->hasMissing() && getSettings().getStyle() == Filled;
+    return dataChanging && getCoarseness() == 1 && canDrawData() && getData() == gridData.get() &&
+           !gridData->isEmpty() && !gridData->hasMissing() && getSettings().getStyle() == Filled;
 }
 
 // With the state that the list of the surface would set.
@@ -253,7 +272,7 @@ void SHPlot::createAddition(Addition& addition)
     addition.setPlot(*this);
     addition.drawBegin();
     if (getData() == gridData.get()) {
-        const int step = getSettings().getResolution();
+        const int step = markerStep(addition);
         if (step > 0)
             GridWalk(*gridData, step).nodes([&](int column, int row) {
                 addition.draw(gridData->valueAt(unsigned(column), unsigned(row)));

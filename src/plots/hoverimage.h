@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QSize>
+
+#include <memory>
+
+class QGLFramebufferObject;
+
+namespace Zel3D {
+
+/// The finished frame without what follows the mouse, so that a mark can move over it without drawing the
+/// scene again. Colour and depth of every sample are kept: what is drawn over it looks as in a full frame.
+class HoverImage
+{
+public:
+    HoverImage();
+    ~HoverImage();
+    HoverImage(const HoverImage&) = delete;
+    HoverImage& operator=(const HoverImage&) = delete;
+
+    /// Copies the window's framebuffer, of a size in pixels and with so many samples a pixel; false where the
+    /// driver cannot. Needs a current context, as do the following.
+    bool take(const QSize& size, int samples);
+    /// Copies it back; false, with nothing done, when there is none of that size.
+    bool put(const QSize& size) const;
+    /// Frees it.
+    void clear();
+    bool isEmpty() const { return !buffer; }
+
+private:
+    std::unique_ptr<QGLFramebufferObject> buffer;
+};
+
+} // namespace Zel3D
