@@ -16,7 +16,6 @@ bool HoverImage::take(const QSize& size, int samples)
         return false;
     if (!buffer || buffer->size() != size || buffer->format().samples() != samples) {
         QGLFramebufferObjectFormat format;
-        format.setAttachment(QGLFramebufferObject::CombinedDepthStencil);
         format.setSamples(samples);
         buffer = std::make_unique<QGLFramebufferObject>(size, format);
         // Of samples in another number the driver makes no copy.
@@ -28,8 +27,7 @@ bool HoverImage::take(const QSize& size, int samples)
     while (glGetError() != GL_NO_ERROR) {
     }
     const QRect all(QPoint(0, 0), size);
-    QGLFramebufferObject::blitFramebuffer(buffer.get(), all, nullptr, all,
-                                          GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT, GL_NEAREST);
+    QGLFramebufferObject::blitFramebuffer(buffer.get(), all, nullptr, all, GL_COLOR_BUFFER_BIT, GL_NEAREST);
     if (glGetError() != GL_NO_ERROR)
         buffer.reset();
     return !isEmpty();
@@ -40,8 +38,8 @@ bool HoverImage::put(const QSize& size) const
     if (!buffer || buffer->size() != size)
         return false;
     const QRect all(QPoint(0, 0), size);
-    QGLFramebufferObject::blitFramebuffer(nullptr, all, buffer.get(), all,
-                                          GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT, GL_NEAREST);
+    QGLFramebufferObject::blitFramebuffer(nullptr, all, buffer.get(), all, GL_COLOR_BUFFER_BIT, GL_NEAREST);
+    glClear(GL_DEPTH_BUFFER_BIT);
     return true;
 }
 

@@ -9,7 +9,9 @@ class QGLFramebufferObject;
 namespace Zel3D {
 
 /// The finished frame without what follows the mouse, so that a mark can move over it without drawing the
-/// scene again. Colour and depth of every sample are kept: what is drawn over it looks as in a full frame.
+/// scene again. The colour of every sample is kept, so that what is drawn in front of the scene looks as in a
+/// full frame. Depths are not, which would cost as much again: what is drawn over the image is in front of
+/// it.
 class HoverImage
 {
 public:
