@@ -73,6 +73,13 @@
     </message>
 </context>
 <context>
+    <name>PictureSession</name>
+    <message>
+        <source>The plot cannot be drawn: it is just loading.</source>
+        <translation>Das Diagramm kann nicht gezeichnet werden: Es lädt gerade.</translation>
+    </message>
+</context>
+<context>
     <name>PlotBindings</name>
     <message>
         <source>Turn around X</source>
@@ -340,6 +347,13 @@
     <message>
         <source>The stop &quot;%1&quot; is not a position from 0 to 1, at or behind the one before, and a color such as #ff336699.</source>
         <translation>Die Stützstelle „%1“ ist keine Position von 0 bis 1, nicht vor der vorigen, mit einer Farbe wie #ff336699.</translation>
+    </message>
+</context>
+<context>
+    <name>Preview</name>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
     </message>
 </context>
 <context>
@@ -2669,10 +2683,6 @@ Einfg fügt hinzu, Entf entfernt, Eingabe wählt die Farbe.</translation>
         <translation>Ein Bild von %1 mal %2 Pixeln ist zu groß.</translation>
     </message>
     <message>
-        <source>The plot cannot be drawn: it has no OpenGL context or is just loading.</source>
-        <translation>Das Diagramm kann nicht gezeichnet werden: Es hat keinen OpenGL-Kontext oder lädt gerade.</translation>
-    </message>
-    <message>
         <source>The driver has no memory for a picture.</source>
         <translation>Der Treiber hat keinen Speicher für ein Bild.</translation>
     </message>
@@ -2897,10 +2907,6 @@ Einfg fügt hinzu, Entf entfernt, Eingabe wählt die Farbe.</translation>
 </context>
 <context>
     <name>Zel3D::VectorPicture</name>
-    <message>
-        <source>The plot cannot be drawn: it has no OpenGL context or is just loading.</source>
-        <translation>Das Diagramm kann nicht gezeichnet werden: Es hat keinen OpenGL-Kontext oder lädt gerade.</translation>
-    </message>
     <message>
         <source>Axes and legend have too many lines for a vector picture.</source>
         <translation>Achsen und Legende haben zu viele Linien für ein Vektorbild.</translation>

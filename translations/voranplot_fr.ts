@@ -73,6 +73,13 @@
     </message>
 </context>
 <context>
+    <name>PictureSession</name>
+    <message>
+        <source>The plot cannot be drawn: it is just loading.</source>
+        <translation>Le graphique ne peut pas être dessiné&#xa0;: il est en cours de chargement.</translation>
+    </message>
+</context>
+<context>
     <name>PlotBindings</name>
     <message>
         <source>Turn around X</source>
@@ -340,6 +347,13 @@
     <message>
         <source>The stop &quot;%1&quot; is not a position from 0 to 1, at or behind the one before, and a color such as #ff336699.</source>
         <translation>Le point «&#xa0;%1&#xa0;» n’est pas une position de 0 à 1, égale ou supérieure à la précédente, avec une couleur telle que #ff336699.</translation>
+    </message>
+</context>
+<context>
+    <name>Preview</name>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
     </message>
 </context>
 <context>
@@ -2669,10 +2683,6 @@ Inser ajoute, Suppr supprime, Entrée choisit la couleur.</translation>
         <translation>Une image de %1 sur %2 pixels est trop grande.</translation>
     </message>
     <message>
-        <source>The plot cannot be drawn: it has no OpenGL context or is just loading.</source>
-        <translation>Le graphique ne peut pas être dessiné&#xa0;: il n’a pas de contexte OpenGL ou est en cours de chargement.</translation>
-    </message>
-    <message>
         <source>The driver has no memory for a picture.</source>
         <translation>Le pilote n’a pas de mémoire pour une image.</translation>
     </message>
@@ -2897,10 +2907,6 @@ Inser ajoute, Suppr supprime, Entrée choisit la couleur.</translation>
 </context>
 <context>
     <name>Zel3D::VectorPicture</name>
-    <message>
-        <source>The plot cannot be drawn: it has no OpenGL context or is just loading.</source>
-        <translation>Le graphique ne peut pas être dessiné&#xa0;: il n’a pas de contexte OpenGL ou est en cours de chargement.</translation>
-    </message>
     <message>
         <source>Axes and legend have too many lines for a vector picture.</source>
         <translation>Les axes et la légende ont trop de lignes pour une image vectorielle.</translation>

@@ -353,6 +353,14 @@
         <source>There is no table and no file on the clipboard. Copy some cells in a spreadsheet, then paste them here.</source>
         <translation>In der Zwischenablage ist keine Tabelle und keine Datei. Einige Zellen in einer Tabellenkalkulation kopieren, dann hier einfügen.</translation>
     </message>
+    <message>
+        <source>&amp;Data</source>
+        <translation>&amp;Daten</translation>
+    </message>
+    <message>
+        <source>Sli&amp;ce</source>
+        <translation>Schni&amp;tt</translation>
+    </message>
 </context>
 <context>
     <name>DataInspector</name>
@@ -381,7 +389,7 @@
     </message>
     <message>
         <source>%1 (%2 %)</source>
-        <translation>%1 (%2 %)</translation>
+        <translation>%1 (%2&#xa0;%)</translation>
     </message>
     <message>
         <source>%1 columns × %2 rows</source>

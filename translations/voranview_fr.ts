@@ -5,7 +5,7 @@
     <name>ClipboardTable</name>
     <message>
         <source>The table cannot be read: row %1, column %2: found %3, expected %4.</source>
-        <translation>Le tableau ne peut pas être lu : ligne %1, colonne %2 : trouvé %3, attendu %4.</translation>
+        <translation>Le tableau ne peut pas être lu&#xa0;: ligne %1, colonne %2&#xa0;: trouvé %3, attendu %4.</translation>
     </message>
     <message>
         <source>an empty cell</source>
@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>The table has rows: %1, columns: %2; at least two of each are needed.</source>
-        <translation>Le tableau a %1 lignes et %2 colonnes ; il en faut au moins deux de chaque.</translation>
+        <translation>Le tableau a %1 lignes et %2 colonnes&#xa0;; il en faut au moins deux de chaque.</translation>
     </message>
     <message>
         <source>The table needs more memory than can be had.</source>
@@ -25,15 +25,15 @@
     </message>
     <message>
         <source>The table needs about %1 of memory; %2 are free.</source>
-        <translation>Le tableau a besoin d’environ %1 de mémoire ; %2 sont libres.</translation>
+        <translation>Le tableau a besoin d’environ %1 de mémoire&#xa0;; %2 sont libres.</translation>
     </message>
     <message>
         <source>The table cannot be read: %1.</source>
-        <translation>Le tableau ne peut pas être lu : %1.</translation>
+        <translation>Le tableau ne peut pas être lu&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The table cannot be read: row %1, column %2: found the end of the row, expected %3 columns as in row %4.</source>
-        <translation>Le tableau ne peut pas être lu : ligne %1, colonne %2 : trouvé la fin de la ligne, attendu %3 colonnes comme à la ligne %4.</translation>
+        <translation>Le tableau ne peut pas être lu&#xa0;: ligne %1, colonne %2&#xa0;: trouvé la fin de la ligne, attendu %3 colonnes comme à la ligne %4.</translation>
     </message>
     <message>
         <source>a number</source>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Values too large to draw are missing: %1.</source>
-        <translation>Les valeurs trop grandes pour être dessinées manquent : %1.</translation>
+        <translation>Les valeurs trop grandes pour être dessinées manquent&#xa0;: %1.</translation>
     </message>
     <message>
         <source>x</source>
@@ -73,7 +73,7 @@
     </message>
     <message>
         <source>Nodes without a row in the table are missing: %1.</source>
-        <translation>Les nœuds sans ligne dans le tableau manquent : %1.</translation>
+        <translation>Les nœuds sans ligne dans le tableau manquent&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The table does not have this form.</source>
@@ -81,7 +81,7 @@
     </message>
     <message>
         <source>The table needs %1; %2 are free.</source>
-        <translation>Le tableau a besoin de %1 ; %2 sont libres.</translation>
+        <translation>Le tableau a besoin de %1&#xa0;; %2 sont libres.</translation>
     </message>
     <message>
         <source>Every height of the table is missing.</source>
@@ -261,19 +261,19 @@
     </message>
     <message>
         <source>The option --%1 is for grid files; none is named.</source>
-        <translation>L’option --%1 concerne les fichiers de grille ; aucun n’est indiqué.</translation>
+        <translation>L’option --%1 concerne les fichiers de grille&#xa0;; aucun n’est indiqué.</translation>
     </message>
     <message>
         <source>A picture is of one file, but %1 are named; name one file in each run.</source>
-        <translation>Une image montre un fichier, mais %1 sont indiqués ; indiquer un fichier à chaque lancement.</translation>
+        <translation>Une image montre un fichier, mais %1 sont indiqués&#xa0;; indiquer un fichier à chaque lancement.</translation>
     </message>
     <message>
         <source>The budget &quot;%1&quot; is not a whole number of nodes from %2 to %3.</source>
-        <translation>Le nombre de nœuds « %1 » n’est pas un nombre entier de %2 à %3.</translation>
+        <translation>Le nombre de nœuds «&#xa0;%1&#xa0;» n’est pas un nombre entier de %2 à %3.</translation>
     </message>
     <message>
         <source>The part &quot;%1&quot; is not X0,Y0,X1,Y1, the coordinates of two corners.</source>
-        <translation>La partie « %1 » n’est pas X0,Y0,X1,Y1, les coordonnées de deux coins.</translation>
+        <translation>La partie «&#xa0;%1&#xa0;» n’est pas X0,Y0,X1,Y1, les coordonnées de deux coins.</translation>
     </message>
 </context>
 <context>
@@ -335,7 +335,7 @@
     </message>
     <message>
         <source>Choose a cell of the table in the Data window, or switch on &quot;Pick values&quot; in the Plot menu and point at the plot.</source>
-        <translation>Choisir une cellule du tableau dans la fenêtre Données, ou activer « Lire les valeurs » dans le menu Graphique et pointer sur le graphique.</translation>
+        <translation>Choisir une cellule du tableau dans la fenêtre Données, ou activer «&#xa0;Lire les valeurs&#xa0;» dans le menu Graphique et pointer sur le graphique.</translation>
     </message>
     <message>
         <source>Point at a spectrum to see it here.</source>
@@ -352,6 +352,14 @@
     <message>
         <source>There is no table and no file on the clipboard. Copy some cells in a spreadsheet, then paste them here.</source>
         <translation>Il n’y a ni tableau ni fichier dans le presse-papiers. Copier des cellules dans un tableur, puis les coller ici.</translation>
+    </message>
+    <message>
+        <source>&amp;Data</source>
+        <translation>Do&amp;nnées</translation>
+    </message>
+    <message>
+        <source>Sli&amp;ce</source>
+        <translation>Co&amp;upe</translation>
     </message>
 </context>
 <context>
@@ -381,7 +389,7 @@
     </message>
     <message>
         <source>%1 (%2 %)</source>
-        <translation>%1 (%2 %)</translation>
+        <translation>%1 (%2&#xa0;%)</translation>
     </message>
     <message>
         <source>%1 columns × %2 rows</source>
@@ -772,15 +780,15 @@
     </message>
     <message>
         <source>&quot;%1&quot; has no nodes in that part; its x are from %2 to %3, its y from %4 to %5.</source>
-        <translation>« %1 » n’a pas de nœuds dans cette partie ; x va de %2 à %3, y de %4 à %5.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas de nœuds dans cette partie&#xa0;; x va de %2 à %3, y de %4 à %5.</translation>
     </message>
     <message>
         <source>That part of &quot;%1&quot; has %2 x %3 nodes (columns x rows); a surface needs at least 2 x 2.</source>
-        <translation>Cette partie de « %1 » a %2 x %3 nœuds (colonnes x rangées) ; une surface en a besoin d’au moins 2 x 2.</translation>
+        <translation>Cette partie de «&#xa0;%1&#xa0;» a %2 x %3 nœuds (colonnes x rangées)&#xa0;; une surface en a besoin d’au moins 2 x 2.</translation>
     </message>
     <message>
         <source>That part of &quot;%1&quot; cannot be drawn: at its coordinates single precision cannot tell its nodes apart.</source>
-        <translation>Cette partie de « %1 » ne peut pas être dessinée : à ses coordonnées, la simple précision ne distingue pas les nœuds.</translation>
+        <translation>Cette partie de «&#xa0;%1&#xa0;» ne peut pas être dessinée&#xa0;: à ses coordonnées, la simple précision ne distingue pas les nœuds.</translation>
     </message>
 </context>
 <context>
@@ -803,7 +811,7 @@
     </message>
     <message>
         <source>Shown thinned: %1 x %2 of %3 x %4 nodes; each is a mean of several.</source>
-        <translation>Affichage allégé : %1 x %2 de %3 x %4 nœuds ; chacun est la moyenne de plusieurs.</translation>
+        <translation>Affichage allégé&#xa0;: %1 x %2 de %3 x %4 nœuds&#xa0;; chacun est la moyenne de plusieurs.</translation>
     </message>
 </context>
 <context>
@@ -814,7 +822,7 @@
     </message>
     <message>
         <source>%1 to %2: %3</source>
-        <translation>%1 à %2 : %3</translation>
+        <translation>%1 à %2&#xa0;: %3</translation>
     </message>
 </context>
 <context>
@@ -938,7 +946,7 @@
     </message>
     <message>
         <source>Drag a rectangle on the map, or drag inside it to move it:</source>
-        <translation>Tracer un rectangle sur la carte, ou glisser à l’intérieur pour le déplacer :</translation>
+        <translation>Tracer un rectangle sur la carte, ou glisser à l’intérieur pour le déplacer&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Open part</source>
@@ -962,15 +970,15 @@
     </message>
     <message>
         <source>%1: too few for a surface, which needs 2 x 2. Choose a larger part.</source>
-        <translation>%1 : trop peu pour une surface, qui en demande 2 x 2. Choisir une partie plus grande.</translation>
+        <translation>%1&#xa0;: trop peu pour une surface, qui en demande 2 x 2. Choisir une partie plus grande.</translation>
     </message>
     <message>
         <source>%1, in full: within the budget of %2 nodes.</source>
-        <translation>%1, en entier : dans la limite de %2 nœuds.</translation>
+        <translation>%1, en entier&#xa0;: dans la limite de %2 nœuds.</translation>
     </message>
     <message>
         <source>%1: more than the budget of %2 nodes. Shown thinned to %3 x %4.</source>
-        <translation>%1 : plus que la limite de %2 nœuds. Affichage allégé à %3 x %4.</translation>
+        <translation>%1&#xa0;: plus que la limite de %2 nœuds. Affichage allégé à %3 x %4.</translation>
     </message>
 </context>
 <context>
@@ -1287,15 +1295,15 @@
     <name>ProgressLine</name>
     <message>
         <source>voranview: drawing %1</source>
-        <translation>voranview : dessin de %1</translation>
+        <translation>voranview&#xa0;: dessin de %1</translation>
     </message>
     <message>
         <source>voranview: reading %1</source>
-        <translation>voranview : lecture de %1</translation>
+        <translation>voranview&#xa0;: lecture de %1</translation>
     </message>
     <message>
         <source>voranview: writing %1</source>
-        <translation>voranview : écriture de %1</translation>
+        <translation>voranview&#xa0;: écriture de %1</translation>
     </message>
 </context>
 <context>
@@ -1391,7 +1399,7 @@
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Copy</source>
@@ -1415,7 +1423,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; cannot be written: %2.</source>
-        <translation>« %1 » ne peut pas être écrit : %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être écrit&#xa0;: %2.</translation>
     </message>
     <message>
         <source>slice.csv</source>
@@ -1678,7 +1686,7 @@
     </message>
     <message>
         <source>Sho&amp;w below</source>
-        <translation>Mo&amp;ntrer en dessous</translation>
+        <translation>&amp;Montrer en dessous</translation>
     </message>
     <message>
         <source>Move the plot to a place of its own, below another plot</source>
@@ -1717,7 +1725,7 @@
     </message>
     <message>
         <source>The table has %1 rows and %2 columns. What do its cells mean?</source>
-        <translation>Le tableau a %1 lignes et %2 colonnes. Que signifient ses cellules ?</translation>
+        <translation>Le tableau a %1 lignes et %2 colonnes. Que signifient ses cellules&#xa0;?</translation>
     </message>
     <message>
         <source>&amp;Show</source>
@@ -1729,19 +1737,19 @@
     </message>
     <message>
         <source>Surface: &amp;heights</source>
-        <translation>Surface : &amp;hauteurs</translation>
+        <translation>Surface&#xa0;: &amp;hauteurs</translation>
     </message>
     <message>
         <source>Surface: first row is x, first &amp;column is y</source>
-        <translation>Surface : première ligne x, première &amp;colonne y</translation>
+        <translation>Surface&#xa0;: première ligne x, première &amp;colonne y</translation>
     </message>
     <message>
         <source>Surface: first &amp;row is x</source>
-        <translation>Surface : première &amp;ligne x</translation>
+        <translation>Surface&#xa0;: première &amp;ligne x</translation>
     </message>
     <message>
         <source>Surface: first column is &amp;y</source>
-        <translation>Surface : première colonne &amp;y</translation>
+        <translation>Surface&#xa0;: première colonne &amp;y</translation>
     </message>
     <message>
         <source>x, y, &amp;z columns</source>
@@ -1749,7 +1757,7 @@
     </message>
     <message>
         <source>&amp;Spectra: first column is x</source>
-        <translation>&amp;Spectres : première colonne x</translation>
+        <translation>&amp;Spectres&#xa0;: première colonne x</translation>
     </message>
     <message>
         <source>The table does not have this form.</source>
@@ -1764,7 +1772,7 @@
     </message>
     <message>
         <source>The table cannot be drawn: its uneven rows or columns lie so far from zero that they fall together; take a constant off them first.</source>
-        <translation>Le tableau ne peut pas être dessiné : ses lignes ou colonnes irrégulières sont si loin de zéro qu’elles se confondent ; en retrancher d’abord une constante.</translation>
+        <translation>Le tableau ne peut pas être dessiné&#xa0;: ses lignes ou colonnes irrégulières sont si loin de zéro qu’elles se confondent&#xa0;; en retrancher d’abord une constante.</translation>
     </message>
     <message>
         <source>%1 spectra, %2 points each</source>
@@ -1772,7 +1780,7 @@
     </message>
     <message>
         <source>%1: %2 at %3</source>
-        <translation>%1 : %2 à %3</translation>
+        <translation>%1&#xa0;: %2 à %3</translation>
     </message>
 </context>
 <context>
@@ -1805,7 +1813,7 @@
     </message>
     <message>
         <source>The chosen cells are on the clipboard: %1.</source>
-        <translation>Les cellules choisies sont dans le presse-papiers : %1.</translation>
+        <translation>Les cellules choisies sont dans le presse-papiers&#xa0;: %1.</translation>
     </message>
     <message>
         <source>&amp;Copy cells</source>
@@ -1847,7 +1855,7 @@
     </message>
     <message>
         <source>&amp;Undo %1</source>
-        <translation>A&amp;nnuler : %1</translation>
+        <translation>A&amp;nnuler&#xa0;: %1</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
@@ -1855,7 +1863,7 @@
     </message>
     <message>
         <source>&amp;Redo %1</source>
-        <translation>Réta&amp;blir : %1</translation>
+        <translation>Réta&amp;blir&#xa0;: %1</translation>
     </message>
     <message>
         <source>link of views</source>
@@ -2023,7 +2031,7 @@
     </message>
     <message>
         <source>L&amp;ink views</source>
-        <translation>Lier les v&amp;ues</translation>
+        <translation>S&amp;ynchroniser les vues</translation>
     </message>
     <message>
         <source>Turn, zoom and shift all plots together</source>

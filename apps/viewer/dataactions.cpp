@@ -72,13 +72,17 @@ void DataActions::createDocks(QMenu& viewMenu)
 {
     m_inspector = new DataInspector;
     m_slice = new SlicePanel;
-    m_dataDock = createDock(tr("Data"), "dataDock", m_inspector, Qt::RightDockWidgetArea,
-                            QKeySequence(Qt::CTRL + Qt::Key_I), viewMenu);
-    m_sliceDock = createDock(tr("Slice"), "sliceDock", m_slice, Qt::BottomDockWidgetArea,
-                             QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_I), viewMenu);
+    m_dataDock = createDock(tr("Data"), "dataDock", m_inspector, Qt::RightDockWidgetArea);
+    m_sliceDock = createDock(tr("Slice"), "sliceDock", m_slice, Qt::BottomDockWidgetArea);
+    QAction* data = viewMenu.addAction(tr("&Data"));
+    data->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_I));
+    data->setStatusTip(tr("Ranges, statistics and a table of the values"));
+    showWith(*data, *m_dataDock);
+    QAction* slice = viewMenu.addAction(tr("Sli&ce"));
+    slice->setShortcut(QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_I));
+    slice->setStatusTip(tr("The row and the column of the picked point as curves"));
+    showWith(*slice, *m_sliceDock);
     m_window.setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
-    m_dataDock->toggleViewAction()->setStatusTip(tr("Ranges, statistics and a table of the values"));
-    m_sliceDock->toggleViewAction()->setStatusTip(tr("The row and the column of the picked point as curves"));
     connect(m_inspector, &DataInspector::placeChosen, this, [this](const ValuePlace& place) {
         setHeld(true);
         choose(place);
@@ -96,17 +100,23 @@ void DataActions::createDocks(QMenu& viewMenu)
 }
 
 QDockWidget* DataActions::createDock(const QString& title, const char* name, QWidget* content,
-                                     Qt::DockWidgetArea area, const QKeySequence& shortcut, QMenu& viewMenu)
+                                     Qt::DockWidgetArea area)
 {
     auto* dock = new QDockWidget(title, &m_window);
     dock->setObjectName(name);
     dock->setWidget(content);
     m_window.addDockWidget(area, dock);
     dock->hide();
-    dock->toggleViewAction()->setText('&' + title);
-    dock->toggleViewAction()->setShortcut(shortcut);
-    viewMenu.addAction(dock->toggleViewAction());
     return dock;
+}
+
+// The dock's own action takes its text from the title.
+void DataActions::showWith(QAction& action, const QDockWidget& dock)
+{
+    action.setCheckable(true);
+    connect(&action, &QAction::triggered, dock.toggleViewAction(), &QAction::trigger);
+    connect(dock.toggleViewAction(), &QAction::toggled, &action, &QAction::setChecked);
+    m_showActions.append(&action);
 }
 
 void DataActions::setPage(PlotPage* page)
@@ -127,8 +137,8 @@ void DataActions::setPage(PlotPage* page)
     m_slice->setValues(nullptr);
     m_page = page;
     m_values = page ? PlotValues::of(page->plot()) : nullptr;
-    for (QDockWidget* dock : {m_dataDock, m_sliceDock})
-        dock->toggleViewAction()->setEnabled(page != nullptr);
+    for (QAction* show : qAsConst(m_showActions))
+        show->setEnabled(page != nullptr);
     if (page)
         followPlot();
     setHeld(false);

@@ -51,8 +51,10 @@ protected:
 
 private:
     void createDocks(QMenu& viewMenu);
-    QDockWidget* createDock(const QString& title, const char* name, QWidget* content, Qt::DockWidgetArea area,
-                            const QKeySequence& shortcut, QMenu& viewMenu);
+    QDockWidget* createDock(const QString& title, const char* name, QWidget* content,
+                            Qt::DockWidgetArea area);
+    /// Lets an entry of a menu show and hide a dock.
+    void showWith(QAction& action, const QDockWidget& dock);
     void paste(bool ask);
     void takeTable(const QString& text, bool ask);
     void followPlot();
@@ -73,6 +75,7 @@ private:
     SlicePanel* m_slice = nullptr;
     QDockWidget* m_dataDock = nullptr;
     QDockWidget* m_sliceDock = nullptr;
+    QList<QAction*> m_showActions; ///< of the docks
     QTimer* m_refresh = nullptr;
     PlotPage* m_page = nullptr;
     std::unique_ptr<PlotValues> m_values;

@@ -77,6 +77,7 @@ void PlotPreferences::applyTo(PlotView& view) const
         plot.setPlotStyle(m_styles.value(view.kind()));
     view.setLook(m_look);
     plot.setSelecting(m_picking);
+    plot.setPreviewing(ViewerPreferences::isPreviewing());
     if (view.kind() == PlotKind::Surface)
         plot.setLighting(m_lighting);
     plot.setProjectionType(m_perspective ? Zel3D::Perspective : Zel3D::Orthogonal);

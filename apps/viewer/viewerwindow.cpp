@@ -112,7 +112,8 @@ ViewerWindow::ViewerWindow()
 
 ViewerWindow::~ViewerWindow()
 {
-    // Before the menus and bars that it gives back go.
+    // Before the menus, bars and docks go that they use.
+    m_data->setPage(nullptr);
     m_host.reset();
 }
 

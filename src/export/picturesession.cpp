@@ -2,6 +2,7 @@
 
 #include "view/opengl.h"
 
+#include <QCoreApplication>
 #include <QGLFramebufferObject>
 #include <QImage>
 
@@ -39,6 +40,14 @@ PictureSession::~PictureSession()
     // What the texts and the legend remember of their places is the window's again.
     if (plot.isVisible())
         plot.update();
+}
+
+QString PictureSession::getProblem() const
+{
+    const QString problem = plot.getContextProblem();
+    return problem.isEmpty() ? QCoreApplication::translate("PictureSession",
+                                                           "The plot cannot be drawn: it is just loading.")
+                             : problem;
 }
 
 void PictureSession::makeCurrent()

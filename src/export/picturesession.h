@@ -20,6 +20,8 @@ public:
 
     /// False when the plot has no context or is just loading.
     bool isReady() const { return ready; }
+    /// Why not, as a sentence.
+    QString getProblem() const;
     /// Reserves memory for tiles of a size; false when the driver has none. Depths can only be read back
     /// where edges are not smoothed.
     bool reserve(const QSize& size, bool smoothed = true);

@@ -63,7 +63,7 @@ QImage RasterPicture::render()
     const double ratio = PictureOptions::ratio(plot, size);
     PictureSession session(plot, ratio / plot.devicePixelRatioF(), false);
     if (!session.isReady())
-        return fail(tr("The plot cannot be drawn: it has no OpenGL context or is just loading."));
+        return fail(session.getProblem());
     if (!paintTiles(session, image))
         return QImage();
     describe(image, plot, options);

@@ -138,7 +138,7 @@ QByteArray VectorPicture::render()
     {
         PictureSession session(plot, frame.textRatio / plot.devicePixelRatioF(), true);
         if (!session.isReady())
-            return fail(tr("The plot cannot be drawn: it has no OpenGL context or is just loading."));
+            return fail(session.getProblem());
         if (!collect(session))
             return fail(tr("Axes and legend have too many lines for a vector picture."));
         if (!hybrid)

@@ -1,19 +1,17 @@
 // Life, paint order and display lists of a plot.
 
 #include "plots/baseplot.h"
+#include "plots/plotparts.h"
 
 #include "core/data.h"
 #include "core/datacolor.h"
 #include "plots/addition.h"
 #include "plots/baseplotsettings.h"
-#include "plots/pickhighlight.h"
-#include "plots/pickpass.h"
 #include "plots/pictureframe.h"
 #include "plots/plotactions.h"
-#include "plots/plotproperties.h"
+#include "plots/plotlists.h"
 #include "plots/settingsdialogoptions.h"
 #include "scene/coordinatesystem.h"
-#include "scene/drawtarget.h"
 #include "scene/facepolicy.h"
 #include "scene/legend.h"
 #include "scene/title.h"
@@ -28,8 +26,6 @@ namespace Zel3D {
 
 namespace {
 
-enum DrawingList : std::size_t { NormalsList, DataList };
-
 /// Logical pixels between the title and the numbers of a standing legend.
 constexpr double titleGap = 16.0;
 
@@ -42,12 +38,11 @@ constexpr unsigned int listState = GL_ENABLE_BIT | GL_LINE_BIT | GL_POINT_BIT | 
 BasePlot::BasePlot(const QString& name, const QString& organizationName, const QString& applicationName,
                    QWidget* parent, const QGLWidget* shareWidget, Qt::WindowFlags flags)
     : ZelGLWidget(name, organizationName, applicationName, parent, shareWidget, flags),
-      pickPass(std::make_unique<PickPass>()),
-      pickHighlight(std::make_unique<PickHighlight>()),
+      lists(std::make_unique<PlotLists>()),
+      parts(std::make_unique<PlotParts>()),
       coordinateSystem(std::make_unique<CoordinateSystem>(QVector3D(), QVector3D())),
       title(std::make_unique<Title>()),
       legend(std::make_unique<Legend>()),
-      edges(std::make_unique<EdgeChoice>()),
       settings(std::make_unique<BasePlotSettings>()),
       actions(std::make_unique<PlotActions>(*this))
 {
@@ -69,19 +64,22 @@ BasePlot::BasePlot(const QString& name, const QString& organizationName, const Q
     setDataColor(new DataColor(this, QString(), QLinearGradient()));
     connect(this, &ZelGLWidget::selectedObject, this, &BasePlot::highlightPick);
     createActions();
-    properties = std::make_unique<PlotProperties>(*this);
+    parts->properties = std::make_unique<PlotProperties>(*this);
     // The hidden line style fills the surface with the background colour.
-    connect(this, &ZelGLWidget::backgroundColorChanged, this, [this] { markDataChanged(); });
+    connect(this, &ZelGLWidget::backgroundColorChanged, this, [this] {
+        if (isGeometryInput(BackgroundInput))
+            markDataChanged();
+    });
 }
 
 BasePlot::~BasePlot()
 {
     if (isValid()) {
         makeCurrent();
-        for (DisplayList& list : drawingLists)
-            list.remove();
-        for (DisplayList& list : selectionLists)
-            list.remove();
+        lists->drawing.remove();
+        lists->preview.remove();
+        lists->selection.remove();
+        parts->hoverImage.clear();
     }
     qDeleteAll(additions);
 }
@@ -99,14 +97,15 @@ QSize BasePlot::minimumSizeHint() const
 void BasePlot::initializeGL()
 {
     ZelGLWidget::initializeGL();
-    const bool sameContext = listContext == context();
-    if (sameContext && drawingLists[DataList].exists())
+    const bool sameContext = lists->context == context();
+    if (sameContext && lists->drawing.data.exists())
         return;
     // The context is new to the lists: what was compiled went with the old one.
-    for (DisplayList& list : drawingLists)
-        list.forget();
-    for (DisplayList& list : selectionLists)
-        list.forget();
+    lists->drawing.forget();
+    lists->preview.forget();
+    parts->preview.isListed = false;
+    parts->hoverImage.clear();
+    lists->selection.forget();
     if (!data)
         return;
     const BusyScope rebuilding(*this);
@@ -117,7 +116,7 @@ void BasePlot::initializeGL()
 
 void BasePlot::drawWithoutTransform()
 {
-    if (picture && !picture->parts.testFlag(PictureFrame::Overlay))
+    if (parts->picture && !parts->picture->parts.testFlag(PictureFrame::Overlay))
         return;
     const double ratio = textRatio();
     title->setPixelRatio(ratio);
@@ -125,8 +124,16 @@ void BasePlot::drawWithoutTransform()
     // Of what is painted on, which need not be the window.
     const std::array<int, 4> viewport = currentViewFrame().viewport;
     legend->setReservedTop(reservedTop(QSize(viewport[2], viewport[3])));
+    const bool pointing = legend->isValueShown() && parts->isMarkHeldBack;
+    const double value = legend->getValue();
+    if (pointing)
+        legend->hideValue();
     legend->draw();
+    if (pointing)
+        legend->showValue(value);
     title->draw();
+    if (parts->preview.isShown && !parts->picture)
+        parts->preview.drawMark(getBackgroundColor(), ratio);
 }
 
 double BasePlot::reservedTop(const QSize& window)
@@ -150,22 +157,28 @@ double BasePlot::reservedTop(const QSize& window)
 void BasePlot::paintGL()
 {
     // Before the camera is set: a rebuilt hull may change the scale.
-    if (!isBusy())
+    if (!isBusy()) {
         rebuildWhatChanged();
-    ZelGLWidget::paintGL();
+        preparePreview();
+    }
+    if (parts->isHoverFrame && drawHovered())
+        return;
+    restartFrameTime();
+    drawUnhovered();
 }
 
 void BasePlot::draw()
 {
     warnWithoutGradient();
     const ModelViewScope matrix;
-    if (picture) {
+    if (parts->picture) {
         drawTile();
         return;
     }
     drawData();
     drawCoordinateSystem();
-    pickHighlight->draw(devicePixelRatioF());
+    if (!parts->isMarkHeldBack)
+        parts->pickHighlight.draw(devicePixelRatioF());
 }
 
 void BasePlot::drawData()
@@ -174,9 +187,12 @@ void BasePlot::drawData()
     const AttributeScope attributes(listState);
     if (isLighting())
         glEnable(GL_NORMALIZE);
-    for (const DisplayList& list : drawingLists)
-        list.call();
-    drawArrays();
+    const bool coarse = parts->preview.isShown && !parts->picture;
+    const PlotLists::Drawing& drawn = coarse ? lists->preview : lists->drawing;
+    drawn.normals.call();
+    drawn.data.call();
+    if (!coarse)
+        drawArrays();
 }
 
 void BasePlot::drawCoordinateSystem()
@@ -184,8 +200,8 @@ void BasePlot::drawCoordinateSystem()
     coordinateSystem->setPixelRatio(textRatio());
     coordinateSystem->setViewScale(getScale());
     if (automaticEdges) {
-        *edges = chooseEdges(currentViewFrame(), first(), second(), edges.get());
-        coordinateSystem->setVisibleEdges(*edges);
+        parts->edges = chooseEdges(currentViewFrame(), first(), second(), &parts->edges);
+        coordinateSystem->setVisibleEdges(parts->edges);
     }
     const int faces = coordinateSystem->getSettings().getGridStyle();
     coordinateSystem->setDrawnFaces(automaticFaces ? facesBehind(currentViewFrame(), first(), second(), faces)
@@ -204,17 +220,43 @@ void BasePlot::applyShading() const
 
 void BasePlot::rebuildWhatChanged()
 {
-    if (dataDirty)
+    if (lists->isDataOld)
         updateData();
-    if (normalsDirty)
+    if (lists->isMeshOld)
+        updateMesh();
+    if (lists->areNormalsOld)
         updateNormals();
+}
+
+void BasePlot::markDataChanged()
+{
+    lists->isDataOld = lists->isSelectionOld = true;
+}
+
+void BasePlot::markAllChanged()
+{
+    markDataChanged();
+    lists->areNormalsOld = true;
+}
+
+void BasePlot::markMeshChanged(GeometryInput input)
+{
+    lists->isMeshOld = true;
+    if (isGeometryInput(input))
+        markDataChanged();
+}
+
+/// What can be picked has no colours.
+void BasePlot::markColorsChanged()
+{
+    lists->isDataOld = lists->areNormalsOld = true;
 }
 
 void BasePlot::warnWithoutGradient()
 {
-    if (warnedWithoutGradient || !data || data->isEmpty() || settings->getStyle() == 0 || canDrawData())
+    if (parts->hasWarnedOfGradient || !data || data->isEmpty() || settings->getStyle() == 0 || canDrawData())
         return;
-    warnedWithoutGradient = true;
+    parts->hasWarnedOfGradient = true;
     qWarning(
         "Plot \"%s\": its gradient has no colors, so nothing is drawn; call setGradient(name, gradient).",
         qPrintable(objectName()));
@@ -222,9 +264,9 @@ void BasePlot::warnWithoutGradient()
 
 void BasePlot::warnOfLostValues(int count)
 {
-    if (count == 0 || warnedOfLostValues)
+    if (count == 0 || parts->hasWarnedOfLostValues)
         return;
-    warnedOfLostValues = true;
+    parts->hasWarnedOfLostValues = true;
     qWarning(
         "Plot \"%s\": %d points have a value at or below zero in a logarithmic direction; they are missing.",
         qPrintable(objectName()), count);
@@ -255,8 +297,9 @@ void BasePlot::updateData()
     if (!isValid())
         return;
     makeCurrent();
-    dataDirty = false;
-    listContext = context();
+    lists->isDataOld = false;
+    lists->context = context();
+    removePreview();
     glMatrixMode(GL_MODELVIEW);
     const GLMode depthTest(GL_DEPTH_TEST, true, false);
     const GLMode lineSmooth(GL_LINE_SMOOTH, true, false);
@@ -264,10 +307,33 @@ void BasePlot::updateData()
     // An empty container has no spacing: a plot without data keeps its radius and has nothing to save.
     if (data && !data->isEmpty())
         settings->getCylinder().setRadius(0.5 * std::min(data->getStepX(), data->getStepY()));
-    drawingLists[DataList].compile([this] {
+    lists->drawing.isMeshApart = false;
+    lists->drawing.mesh.reserve();
+    lists->drawing.data.compile([this] {
         createAdditions();
         createData();
     });
+    updateMesh();
+}
+
+void BasePlot::sendMesh()
+{
+    lists->drawing.isMeshApart = true;
+    lists->drawing.mesh.call();
+}
+
+/// With the context of the lists.
+void BasePlot::updateMesh()
+{
+    lists->isMeshOld = false;
+    if (!isValid())
+        return;
+    makeCurrent();
+    removePreview();
+    if (lists->drawing.isMeshApart)
+        lists->drawing.mesh.compile([this] { createMesh(); });
+    else
+        lists->drawing.mesh.remove();
 }
 
 void BasePlot::updateNormals()
@@ -275,20 +341,24 @@ void BasePlot::updateNormals()
     if (!isValid())
         return;
     makeCurrent();
-    normalsDirty = false;
-    drawingLists[NormalsList].remove();
+    lists->areNormalsOld = false;
+    removePreview();
+    lists->drawing.normals.remove();
     if (!settings->getNormals().isVisible() || !data)
         return;
-    listContext = context();
+    lists->context = context();
     glMatrixMode(GL_MODELVIEW);
-    drawingLists[NormalsList].compile([this] { createNormals(); });
+    lists->drawing.normals.compile([this] { createNormals(); });
 }
 
 void BasePlot::removeDataList()
 {
     if (isValid())
         makeCurrent();
-    drawingLists[DataList].remove();
+    removePreview();
+    lists->drawing.data.remove();
+    lists->drawing.mesh.remove();
+    lists->drawing.isMeshApart = false;
 }
 
 void BasePlot::createAdditions()
@@ -303,6 +373,13 @@ void BasePlot::createData() {}
 
 void BasePlot::drawArrays() {}
 
+void BasePlot::createMesh() {}
+
+bool BasePlot::isGeometryInput(GeometryInput /*input*/) const
+{
+    return true;
+}
+
 void BasePlot::createAddition(Addition& /*addition*/) {}
 
 void BasePlot::resetNeedSave()
@@ -316,7 +393,7 @@ void BasePlot::resetNeedSave()
 void BasePlot::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_A && (getHotKeyMask() & AutoScaleHotKey))
-        slotSetAutoScaling(!autoScaling);
+        slotSetAutoScaling(!isAutoScaling());
     if (event->key() == Qt::Key_N && (getHotKeyMask() & NormalsHotKey))
         slotShowNormals(!settings->getNormals().isVisible());
     ZelGLWidget::keyPressEvent(event);

@@ -3,13 +3,11 @@
 #include "core/export.h"
 #include "core/types.h"
 #include "plots/plottypes.h"
-#include "view/displaylist.h"
 #include "view/zelglwidget.h"
 
 #include <QGradient>
 #include <QList>
 #include <QMap>
-#include <QSet>
 #include <QVariant>
 
 #include <array>
@@ -27,17 +25,15 @@ class Data;
 class DataColor;
 class Label;
 class Legend;
-class PickHighlight;
-class PickPass;
 class PickPoints;
 class PlotActions;
-class PlotProperties;
+struct PlotLists;
+struct PlotParts;
 class StyleAction;
 class SettingsDialogOptions;
 class Title;
-struct DrawTarget;
-struct EdgeChoice;
 struct PictureFrame;
+using HoverKey = std::array<double, 14>;
 
 /// The widget that every plot is: the view plus data colouring, additions, display lists, automatic scaling
 /// and the plot's own settings. The subclass supplies the data and the geometry of each plot style.
@@ -50,8 +46,7 @@ class VORANPLOT_EXPORT BasePlot : public ZelGLWidget
     Q_OBJECT
     // Forms apply them in this order: a look comes before what may differ from it, the background included.
 
-    /// The look that was chosen last through this property; choosing one changes the plot as
-    /// Look::applyTo() does, NoLook changes nothing.
+    /// The look chosen last here; a change does what Look::applyTo() does, NoLook nothing.
     Q_PROPERTY(StandardLook look READ getStandardLook WRITE writeLook)
     /// The text of the title.
     Q_PROPERTY(QString title READ getTitleText WRITE writeTitle)
@@ -94,11 +89,13 @@ public:
     const Parallelepiped& getHull() const { return hull; }
     const Parallelepiped& getFixedHull() const { return fixedHull; }
     const Pair<double>& getGradientRange() const { return gradientRange; }
-    bool isAutoScaling() const { return autoScaling; }
+    bool isAutoScaling() const { return boxScaling == CubeScaling; }
     BoxScaling getBoxScaling() const { return boxScaling; }
     bool isAutomaticEdges() const { return automaticEdges; }
     bool isAutomaticFaces() const { return automaticFaces; }
     bool isPickHighlight() const;
+    bool isPreviewing() const;
+    bool isPreviewShown() const; ///< whether the last frame was a preview
     bool isDataCentred() const { return dataCentred; }
     /// What was subtracted from the data in the plot before they were drawn; see setDataCentred(). The hull,
     /// the range of the colours and the places of markers count from it; axes, legend and picks state the
@@ -132,7 +129,6 @@ public:
     /// The exclusive actions of the plot styles, owned by the plot.
     QList<StyleAction*> getStyleActions() const;
     /// Check the actions that stand for the grid style and the plot style in force, without choosing them.
-    /// Only needed after changes past the plot's own setters.
     void updateGridStyleToolBar();
     void updatePlotStyleToolBar();
     /// @}
@@ -182,9 +178,11 @@ public:
     bool setAutomaticFaces(bool on);
     /// On: the picked point is marked in the scene. Off by default.
     bool setPickHighlight(bool on);
-    /// Marks a point in scene units as a pick does, if that is on, until the next pick; a point that is not
-    /// finite marks nothing. Repaints.
+    /// Marks a point in scene units as a pick does, if that is on, until the next pick. Repaints.
     void highlightPoint(const QVector3D& point);
+    /// On: while a person moves the view of a grid that takes over 50 ms a frame, fewer nodes are drawn, with
+    /// the word "Preview". Never in pictures and picks. Off by default, not persisted.
+    bool setPreviewing(bool on);
     /// On: the plain values of a direction become decimal exponents while data are loaded, and its scale
     /// logarithmic. Values at or below zero are then missing. Holds from the next load on. No signal of its
     /// own.
@@ -351,6 +349,14 @@ protected:
     /// Draws what the subclass keeps out of the display lists, behind them; here nothing. The state is put
     /// back afterwards.
     virtual void drawArrays();
+    /// Sends the mesh lines, for a createData() that calls sendMesh(); here nothing.
+    virtual void createMesh();
+    /// Whether createData() and createAdditions() use a value in the state that the plot is in, so that its
+    /// change compiles the geometry again. True here; a subclass that knows better saves time.
+    virtual bool isGeometryInput(GeometryInput input) const;
+    /// By what the node step can be multiplied for a preview so that the data are still recognised; 1, here,
+    /// for no preview.
+    virtual int getCoarsest() const;
 
 signals:
     void plotStyleChanged(int style);
@@ -376,9 +382,8 @@ signals:
     void cylinderMultiplier(double factor);
     void dotSizeChanged(double pixels);
     void dotSmoothChanged(bool on);
-    /// For hosts and dialogs; the plot itself never emits it.
+    /// For hosts and dialogs; the plot itself never emits these two.
     void autoScalingChanged(bool on);
-    /// For hosts and dialogs; the plot itself never emits it.
     void legendPositionChanged(unsigned int position);
     void minorIntervalChanged(unsigned int count);
     void majorIntervalChanged(unsigned int count);
@@ -387,6 +392,7 @@ signals:
     void automaticEdgesChanged(bool on);
     void automaticFacesChanged(bool on);
     void pickHighlightChanged(bool on);
+    void previewingChanged(bool on);
     void cylinderOpacityChanged(int percent);
     void gradientsChanged();
     /// By setMarkers() alone.
@@ -396,6 +402,8 @@ protected:
     void initializeGL() override;
     void paintGL() override;
     int prepareSelection(const QPointF& position) override;
+    void handlingChanged() override;
+    void frameDrawn(double milliseconds) override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
@@ -438,9 +446,13 @@ protected:
     /// Frees the list of the data and additions; the context is made current.
     void removeDataList();
     /// The geometry is compiled again at the next paint.
-    void markDataChanged() { dataDirty = selectionDirty = true; }
+    void markDataChanged();
     /// The same, and the normals too: their places or colours changed.
-    void markAllChanged() { dataDirty = normalsDirty = selectionDirty = true; }
+    void markAllChanged();
+    /// For createData(): what createMesh() sends is drawn here. A change of the mesh compiles it alone.
+    void sendMesh();
+    /// What createData(), createMesh() and createNormals() multiply the node step with.
+    int getCoarseness() const;
 
 private:
     StandardLook getStandardLook() const { return standardLook; }
@@ -452,11 +464,19 @@ private:
     void writeBackgroundColor(const QColor& color);
 
     void createActions();
-    void repaintLegend();
     void rebuildWhatChanged();
+    void updateMesh();
+    void preparePreview();
+    void removePreview();
+    void repaintMark();
+    HoverKey hoverKey() const;
+    void drawUnhovered();
+    bool drawHovered();
+    void drawMarks();
+    void markMeshChanged(GeometryInput input);
+    void markColorsChanged();
     void compileSelection();
     void highlightPick(const SelectedObjectsInfo& info);
-    void showHighlight(const QVector3D& point, bool found);
     void warnWithoutGradient();
     void applyShading() const;
     void drawCoordinateSystem();
@@ -474,33 +494,16 @@ private:
 
     Data* data = nullptr;
     std::unique_ptr<DataColor> dataColor;
-    std::array<DisplayList, 2> drawingLists; ///< normals; data and additions
-    std::array<DisplayList, 1> selectionLists;
-    std::unique_ptr<PickPass> pickPass;
-    std::unique_ptr<PickHighlight> pickHighlight;
-    const QGLContext* listContext = nullptr; ///< where the lists live
-    std::array<DisplayList, 2> pictureLists; ///< those of the window while a picture is drawn
-    const QGLContext* pictureContext = nullptr;
-    std::unique_ptr<DrawTarget> pictureTarget; ///< while pictures are made
-    const PictureFrame* picture = nullptr;     ///< while a picture is drawn
-    bool dataDirty = false;
-    bool normalsDirty = false;
-    bool selectionDirty = true;
-    bool warnedWithoutGradient = false;
-    bool warnedOfLostValues = false;
+    std::unique_ptr<PlotLists> lists;
+    std::unique_ptr<PlotParts> parts;
     std::unique_ptr<Addition> styleAddition;
     QList<Addition*> additions;
-    QSet<const Addition*> addedMarkers; ///< those of them that setMarkers() made
     QGradient currentGradient;
-    ValueXYZ<double> userScale;
-    ValueXYZ<double> automaticScale;
-    bool autoScaling = false;
     BoxScaling boxScaling = ManualScaling;
     StandardLook standardLook = NoLook;
     std::unique_ptr<CoordinateSystem> coordinateSystem;
     std::unique_ptr<Title> title;
     std::unique_ptr<Legend> legend;
-    std::unique_ptr<EdgeChoice> edges; ///< of the last frame, while they are chosen automatically
     bool automaticEdges = true;
     bool automaticFaces = false;
     bool dataCentred = false;
@@ -512,7 +515,6 @@ private:
     Parallelepiped fixedHull;
     Pair<double> gradientRange;
     std::unique_ptr<PlotActions> actions;
-    std::unique_ptr<PlotProperties> properties;
 };
 
 } // namespace Zel3D

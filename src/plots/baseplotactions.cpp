@@ -159,7 +159,7 @@ void BasePlot::slotSelectingChanged(bool on)
     if (!legend->isVisible() || !legend->isValueShown())
         return;
     legend->hideValue();
-    repaintLegend();
+    repaintMark();
 }
 
 void BasePlot::slotSelectedObject(const SelectedObjectsInfo& info)
@@ -176,14 +176,7 @@ void BasePlot::slotSelectedObject(const SelectedObjectsInfo& info)
         legend->showValue(value);
     else
         legend->hideValue();
-    repaintLegend();
-}
-
-void BasePlot::repaintLegend()
-{
-    // A turning view repaints by itself.
-    if (isInitialized() && !isAutoRotating())
-        update();
+    repaintMark();
 }
 
 void BasePlot::slotTopView()

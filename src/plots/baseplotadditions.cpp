@@ -3,6 +3,7 @@
 #include "plots/addition.h"
 #include "plots/baseplot.h"
 #include "plots/markers.h"
+#include "plots/plotparts.h"
 
 #include <QSettings>
 
@@ -23,7 +24,7 @@ bool BasePlot::removeAddition(Addition* addition)
 {
     if (!additions.removeOne(addition))
         return false;
-    addedMarkers.remove(addition);
+    parts->addedMarkers.remove(addition);
     delete addition;
     markDataChanged();
     return true;
@@ -62,16 +63,16 @@ bool BasePlot::setMarkers(const QVariantList& markers)
             changeMarker(*wanted.at(i), marker);
         } else {
             wanted[i] = makeMarker(marker);
-            addedMarkers.insert(wanted.at(i));
+            parts->addedMarkers.insert(wanted.at(i));
         }
     }
     wanted.removeAll(nullptr);
-    addedMarkers.remove(nullptr);
+    parts->addedMarkers.remove(nullptr);
     for (Addition* rest : qAsConst(spare)) {
         if (describeMarker(*rest).value("kind") == ownMarkerKind()) {
             wanted.append(rest);
         } else {
-            addedMarkers.remove(rest);
+            parts->addedMarkers.remove(rest);
             delete rest;
         }
     }
@@ -87,13 +88,13 @@ void BasePlot::saveMarkers() const
 {
     QSettings store(getOrganization(), getApplication());
     const QString group = QString("%0/additions").arg(objectName());
-    if (addedMarkers.isEmpty() && !store.contains(group + "/size"))
+    if (parts->addedMarkers.isEmpty() && !store.contains(group + "/size"))
         return;
     store.remove(group);
     int count = 0;
     for (const Addition* addition : additions) {
         // A host adds its own again.
-        if (!addedMarkers.contains(addition))
+        if (!parts->addedMarkers.contains(addition))
             continue;
         const QVariantMap values = describeMarker(*addition);
         for (auto value = values.cbegin(); value != values.cend(); ++value)
@@ -112,7 +113,7 @@ void BasePlot::loadMarkers()
         return;
     QVariantList markers;
     for (const Addition* addition : qAsConst(additions)) {
-        if (!addedMarkers.contains(addition))
+        if (!parts->addedMarkers.contains(addition))
             markers.append(describeMarker(*addition));
     }
     for (int i = 0; i < size.toInt(); ++i) {

@@ -5,6 +5,7 @@
 #include "plots/autoscaling.h"
 #include "plots/baseplot.h"
 #include "plots/baseplotsettings.h"
+#include "plots/plotparts.h"
 #include "plots/viewfit.h"
 #include "scene/coordinatesystem.h"
 #include "scene/legend.h"
@@ -127,14 +128,14 @@ void BasePlot::updateAutoScale()
     setScalingAllowed(boxScaling == ManualScaling);
     switch (boxScaling) {
     case CubeScaling:
-        automaticScale = recalculateAutoScale();
-        setScale(automaticScale);
+        parts->automaticScale = recalculateAutoScale();
+        setScale(parts->automaticScale);
         break;
     case EqualUnits:
         setScale({1.0, 1.0, 1.0});
         break;
     case ManualScaling:
-        setScale(userScale);
+        setScale(parts->userScale);
         break;
     }
 }
@@ -168,7 +169,7 @@ void BasePlot::applyIntervals()
 
 ValueXYZ<double> BasePlot::getAutoScaleInverse() const
 {
-    return AutoScaling::inverseOf(automaticScale);
+    return AutoScaling::inverseOf(parts->automaticScale);
 }
 
 } // namespace Zel3D

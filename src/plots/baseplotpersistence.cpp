@@ -3,7 +3,7 @@
 #include "core/datacolor.h"
 #include "plots/baseplot.h"
 #include "plots/baseplotsettings.h"
-#include "plots/plotproperties.h"
+#include "plots/plotparts.h"
 #include "scene/coordinatesystem.h"
 #include "scene/legend.h"
 #include "scene/title.h"
@@ -17,14 +17,14 @@ void BasePlot::saveSettings()
     settings->saveSettings(objectName(), getOrganization(), getApplication());
     {
         QSettings store(getOrganization(), getApplication());
-        store.setValue(QString("%0/autoScaling").arg(objectName()), autoScaling);
+        store.setValue(QString("%0/autoScaling").arg(objectName()), isAutoScaling());
     }
     title->saveSettings(objectName(), getOrganization(), getApplication());
     coordinateSystem->saveSettings(objectName(), getOrganization(), getApplication());
     legend->saveSettings(objectName(), getOrganization(), getApplication());
     if (dataColor)
         dataColor->saveSettings(objectName(), getOrganization(), getApplication());
-    properties->saveSettings(objectName(), getOrganization(), getApplication());
+    parts->properties->saveSettings(objectName(), getOrganization(), getApplication());
     saveMarkers();
 }
 
@@ -32,10 +32,10 @@ void BasePlot::loadSettings()
 {
     settings->loadSettings(objectName(), getOrganization(), getApplication());
     const QSettings store(getOrganization(), getApplication());
-    const bool automatic = store.value(QString("%0/autoScaling").arg(objectName()), autoScaling).toBool();
+    const bool automatic = store.value(QString("%0/autoScaling").arg(objectName()), isAutoScaling()).toBool();
     // The scale of the view was loaded before: without automatic scaling it is the user's.
     if (!automatic)
-        userScale = getScale();
+        parts->userScale = getScale();
     if (!setAutoScaling(automatic))
         updateAutoScale();
     applyIntervals();
@@ -50,7 +50,7 @@ void BasePlot::loadSettings()
         if (!dataColor->isEmpty() && dataColor->getId() == current)
             settings->getGradients().addGradient(current, dataColor->getGradient());
     }
-    properties->loadSettings(objectName(), getOrganization(), getApplication());
+    parts->properties->loadSettings(objectName(), getOrganization(), getApplication());
     loadMarkers();
     markAllChanged();
     updateGridStyleToolBar();

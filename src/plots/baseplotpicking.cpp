@@ -3,8 +3,8 @@
 #include "plots/addition.h"
 #include "plots/baseplot.h"
 #include "plots/baseplotsettings.h"
-#include "plots/pickhighlight.h"
-#include "plots/pickpass.h"
+#include "plots/plotlists.h"
+#include "plots/plotparts.h"
 #include "view/glmode.h"
 #include "view/glscopes.h"
 
@@ -15,7 +15,7 @@ namespace Zel3D {
 void BasePlot::updateSelection()
 {
     // Made by the next pick, if not now.
-    selectionDirty = true;
+    lists->isSelectionOld = true;
     if (!isSelecting() || !isValid())
         return;
     makeCurrent();
@@ -25,12 +25,12 @@ void BasePlot::updateSelection()
 
 void BasePlot::compileSelection()
 {
-    selectionDirty = false;
-    listContext = context();
+    lists->isSelectionOld = false;
+    lists->context = context();
     selectableObjects.clear();
-    pickPass->setPoints(createPickPoints());
+    parts->pickPass.setPoints(createPickPoints());
     glMatrixMode(GL_MODELVIEW);
-    selectionLists[0].compile([this] {
+    lists->selection.compile([this] {
         selectAdditions();
         selectData();
     });
@@ -42,42 +42,41 @@ int BasePlot::prepareSelection(const QPointF& position)
     // A pick sees what the next frame will show.
     if (!isBusy())
         rebuildWhatChanged();
-    if (selectionDirty)
+    if (lists->isSelectionOld)
         compileSelection();
-    const int others = selectionCapacity - pickPass->size();
-    return others + pickPass->find(PickVolume(pickMatrix(position)));
+    const int others = selectionCapacity - parts->pickPass.size();
+    return others + parts->pickPass.find(PickVolume(pickMatrix(position)));
 }
 
 void BasePlot::select()
 {
     const ModelViewScope matrix;
-    for (const DisplayList& list : selectionLists)
-        list.call();
+    lists->selection.call();
     const GLMode offset(GL_POLYGON_OFFSET_FILL, true, false);
     const GLMode smooth(GL_LINE_SMOOTH, settings->getMesh().isSmooth(), false);
-    pickPass->send(selectableObjects);
+    parts->pickPass.send(selectableObjects);
 }
 
 void BasePlot::selectMarkers(const Addition& marker)
 {
-    pickPass->addMarkers(marker, selectableObjects.size());
+    parts->pickPass.addMarkers(marker, selectableObjects.size());
 }
 
 void BasePlot::selectProjections(const Addition& marker)
 {
-    pickPass->addProjections(marker, getViewProjectionZ(), selectableObjects.size());
+    parts->pickPass.addProjections(marker, getViewProjectionZ(), selectableObjects.size());
 }
 
 void BasePlot::setPickEverything(bool on)
 {
-    pickPass->setEverything(on);
+    parts->pickPass.setEverything(on);
 }
 
 void BasePlot::clearPickPoints()
 {
-    pickPass->clear();
+    parts->pickPass.clear();
     selectableObjects.clear();
-    selectionDirty = true;
+    lists->isSelectionOld = true;
 }
 
 std::unique_ptr<PickPoints> BasePlot::createPickPoints() const
@@ -115,12 +114,12 @@ int BasePlot::getNumberSelectedAddition(Addition& /*addition*/)
 
 bool BasePlot::isPickHighlight() const
 {
-    return pickHighlight->isVisible();
+    return parts->pickHighlight.isVisible();
 }
 
 bool BasePlot::setPickHighlight(bool on)
 {
-    if (!pickHighlight->setVisible(on))
+    if (!parts->pickHighlight.setVisible(on))
         return false;
     emit pickHighlightChanged(on);
     return true;
@@ -135,20 +134,16 @@ void BasePlot::slotSetPickHighlight(bool on)
 void BasePlot::highlightPick(const SelectedObjectsInfo& info)
 {
     QVector3D place;
-    const bool found = info.valid && pickPass->position(getPickedName(), place);
-    showHighlight(found ? place : QVector3D(), found);
+    const bool found = info.valid && parts->pickPass.position(getPickedName(), place);
+    if (found ? parts->pickHighlight.show(place) : parts->pickHighlight.hide())
+        repaintMark();
 }
 
 void BasePlot::highlightPoint(const QVector3D& point)
 {
-    showHighlight(point, std::isfinite(point.x()) && std::isfinite(point.y()) && std::isfinite(point.z()));
-}
-
-void BasePlot::showHighlight(const QVector3D& point, bool found)
-{
-    // A turning view repaints anyway.
-    if ((found ? pickHighlight->show(point) : pickHighlight->hide()) && isInitialized() && !isAutoRotating())
-        update();
+    const bool finite = std::isfinite(point.x()) && std::isfinite(point.y()) && std::isfinite(point.z());
+    if (finite ? parts->pickHighlight.show(point) : parts->pickHighlight.hide())
+        repaintMark();
 }
 
 } // namespace Zel3D

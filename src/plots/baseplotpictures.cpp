@@ -2,9 +2,9 @@
 
 #include "plots/baseplot.h"
 #include "plots/pictureframe.h"
+#include "plots/plotlists.h"
+#include "plots/plotparts.h"
 #include "scene/coordinatesystem.h"
-#include "scene/drawtarget.h"
-#include "scene/edgepolicy.h"
 #include "scene/legend.h"
 #include "scene/title.h"
 #include "scene/viewframe.h"
@@ -47,7 +47,7 @@ private:
 
 bool BasePlot::beginPicture(double strokeScale, bool tellStrokes)
 {
-    if (pictureTarget || isBusy())
+    if (parts->pictureTarget || isBusy())
         return false;
     if (!isInitialized())
         glInit();
@@ -55,61 +55,60 @@ bool BasePlot::beginPicture(double strokeScale, bool tellStrokes)
         return false;
     makeCurrent();
     rebuildWhatChanged();
-    pictureTarget = std::make_unique<DrawTarget>();
-    pictureTarget->strokeScale = strokeScale;
-    pictureTarget->tellStrokes = tellStrokes;
-    pictureContext = context();
-    const DrawTargetScope target(*pictureTarget);
-    std::swap(drawingLists, pictureLists);
+    parts->pictureTarget = std::make_unique<DrawTarget>();
+    parts->pictureTarget->strokeScale = strokeScale;
+    parts->pictureTarget->tellStrokes = tellStrokes;
+    lists->pictureContext = context();
+    const DrawTargetScope target(*parts->pictureTarget);
+    std::swap(lists->drawing, lists->picture);
     updateData();
     updateNormals();
-    std::swap(drawingLists, pictureLists);
+    std::swap(lists->drawing, lists->picture);
     return true;
 }
 
 void BasePlot::endPicture()
 {
-    if (!pictureTarget)
+    if (!parts->pictureTarget)
         return;
     makeCurrent();
-    for (DisplayList& list : pictureLists) {
-        if (pictureContext == context())
-            list.remove();
-        else
-            list.forget();
-    }
-    pictureTarget.reset();
+    if (lists->pictureContext == context())
+        lists->picture.remove();
+    else
+        lists->picture.forget();
+    parts->pictureTarget.reset();
 }
 
 void BasePlot::paintPicture(const PictureFrame& frame)
 {
-    if (!pictureTarget || pictureContext != context() || frame.tile.isEmpty() || frame.size.isEmpty())
+    if (!parts->pictureTarget || lists->pictureContext != context() || frame.tile.isEmpty() ||
+        frame.size.isEmpty())
         return;
-    DrawTarget target = *pictureTarget;
+    DrawTarget target = *parts->pictureTarget;
     target.whole = frame.size;
     target.tile = frame.tile;
     const ProjectionScope projection;
     const DrawTargetScope scope(target);
-    const QScopedValueRollback<const PictureFrame*> drawn(picture, &frame);
+    const QScopedValueRollback<const PictureFrame*> drawn(parts->picture, &frame);
     // The edges of the window's next frame go by those of its last one.
-    const EdgeChoice windowEdges = *edges;
-    std::swap(drawingLists, pictureLists);
+    const EdgeChoice windowEdges = parts->edges;
+    std::swap(lists->drawing, lists->picture);
     setFrameAspect(double(frame.size.width()) / frame.size.height());
     glViewport(0, 0, frame.tile.width(), frame.tile.height());
     glMatrixMode(GL_PROJECTION);
     glLoadMatrixd(tileMatrix(target).data());
     paintFrame(frame.background, isShowLights() && frame.parts.testFlag(PictureFrame::Data));
     setFrameAspect(0.0);
-    std::swap(drawingLists, pictureLists);
-    *edges = windowEdges;
+    std::swap(lists->drawing, lists->picture);
+    parts->edges = windowEdges;
 }
 
 /// The data through the camera of the tile; around them, what is laid out goes by the camera of the whole.
 void BasePlot::drawTile()
 {
-    if (picture->parts.testFlag(PictureFrame::Data))
+    if (parts->picture->parts.testFlag(PictureFrame::Data))
         drawData();
-    if (!picture->parts.testFlag(PictureFrame::Box))
+    if (!parts->picture->parts.testFlag(PictureFrame::Box))
         return;
     DrawTarget target = DrawTargetScope::current();
     std::array<double, 16> tileProjection{};
@@ -126,7 +125,7 @@ void BasePlot::drawTile()
 
 double BasePlot::textRatio() const
 {
-    return picture ? picture->textRatio : devicePixelRatioF();
+    return parts->picture ? parts->picture->textRatio : devicePixelRatioF();
 }
 
 QVector<const Label*> BasePlot::getShownTexts() const

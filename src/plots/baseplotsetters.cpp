@@ -5,10 +5,14 @@
 #include "plots/addition.h"
 #include "plots/baseplot.h"
 #include "plots/baseplotsettings.h"
+#include "plots/plotlists.h"
+#include "plots/plotparts.h"
 #include "plots/settingsdialogoptions.h"
 #include "scene/coordinatesystem.h"
 #include "scene/legend.h"
 #include "scene/title.h"
+
+#include <typeinfo>
 
 namespace Zel3D {
 
@@ -54,7 +58,7 @@ bool BasePlot::setNormalsVisible(bool on)
 {
     if (!settings->getNormals().setVisible(on))
         return false;
-    normalsDirty = true;
+    lists->areNormalsOld = true;
     emit normalsChanged(settings->getNormals().isVisible());
     return true;
 }
@@ -72,7 +76,7 @@ bool BasePlot::setMeshColor(const QColor& color)
 {
     if (!settings->getMesh().setColor(color))
         return false;
-    markDataChanged();
+    markMeshChanged(MeshColorInput);
     emit meshColorChanged(color);
     return true;
 }
@@ -81,7 +85,7 @@ bool BasePlot::setMeshLineWidth(double pixels)
 {
     if (!settings->getMesh().setLineWidth(pixels))
         return false;
-    markDataChanged();
+    markMeshChanged(MeshWidthInput);
     emit meshLineWidthChanged(pixels);
     return true;
 }
@@ -90,7 +94,7 @@ bool BasePlot::setMeshXVisible(bool on)
 {
     if (!settings->getMesh().setXVisible(on))
         return false;
-    markDataChanged();
+    markMeshChanged(MeshLinesInput);
     emit meshXVisibleChanged(on);
     return true;
 }
@@ -99,7 +103,7 @@ bool BasePlot::setMeshYVisible(bool on)
 {
     if (!settings->getMesh().setYVisible(on))
         return false;
-    markDataChanged();
+    markMeshChanged(MeshLinesInput);
     emit meshYVisibleChanged(on);
     return true;
 }
@@ -108,7 +112,7 @@ bool BasePlot::setNormalsQuality(double sides)
 {
     if (!settings->getNormals().setQuality(sides))
         return false;
-    normalsDirty = true;
+    lists->areNormalsOld = true;
     emit normalsQualityChanged(sides);
     return true;
 }
@@ -117,7 +121,7 @@ bool BasePlot::setNormalsLength(double part)
 {
     if (!settings->getNormals().setLength(part))
         return false;
-    normalsDirty = true;
+    lists->areNormalsOld = true;
     emit normalsLengthChanged(part);
     return true;
 }
@@ -287,7 +291,10 @@ bool BasePlot::setGradient(const QString& name, const QGradient& gradient)
 {
     if (!settings->getGradients().setGradient(name, gradient))
         return false;
-    setDataColor(new DataColor(this, name, gradient));
+    // A colouring of the host's may colour otherwise by the same name.
+    const bool plain = dataColor && typeid(*dataColor) == typeid(DataColor);
+    if (!plain || dataColor->getId() != name || !sameGradient(dataColor->getGradient(), gradient))
+        setDataColor(new DataColor(this, name, gradient));
     return true;
 }
 
@@ -304,7 +311,7 @@ bool BasePlot::setGradients(const QString& current, const QMap<QString, QGradien
 
 bool BasePlot::setAutoScaling(bool on)
 {
-    return autoScaling != on && setBoxScaling(on ? CubeScaling : ManualScaling);
+    return isAutoScaling() != on && setBoxScaling(on ? CubeScaling : ManualScaling);
 }
 
 bool BasePlot::setBoxScaling(BoxScaling scaling)
@@ -312,9 +319,8 @@ bool BasePlot::setBoxScaling(BoxScaling scaling)
     if (boxScaling == scaling)
         return false;
     if (boxScaling == ManualScaling)
-        userScale = getScale();
+        parts->userScale = getScale();
     boxScaling = scaling;
-    autoScaling = scaling == CubeScaling;
     updateAutoScale();
     emit boxScalingChanged(scaling);
     return true;
@@ -322,12 +328,15 @@ bool BasePlot::setBoxScaling(BoxScaling scaling)
 
 void BasePlot::setDataColor(DataColor* coloring)
 {
+    const bool drawable = canDrawData();
     if (coloring != dataColor.get())
         dataColor.reset(coloring);
     currentGradient = dataColor ? dataColor->getGradient() : QGradient();
     legend->setGradient(currentGradient);
-    warnedWithoutGradient = false;
-    markAllChanged();
+    parts->hasWarnedOfGradient = false;
+    markColorsChanged();
+    // Without colours there is nothing to pick.
+    lists->isSelectionOld = lists->isSelectionOld || drawable != canDrawData();
 }
 
 void BasePlot::setStyleAddition(Addition* addition)
@@ -346,9 +355,11 @@ void BasePlot::setSettingsDialogOptions(SettingsDialogOptions* options)
 
 void BasePlot::setGradientRange(const Pair<double>& range)
 {
+    const bool changed = gradientRange.first != range.first || gradientRange.second != range.second;
     gradientRange = range;
     updateLegend();
-    markAllChanged();
+    if (changed)
+        markColorsChanged();
 }
 
 bool BasePlot::setPlotStyle(int style)

@@ -24,6 +24,14 @@ enum BoxScaling {
     ManualScaling = 2 ///< by hand: gestures, keys and setScale()
 };
 
+/// The values that a plot's geometry may be compiled with or without; see BasePlot::isGeometryInput().
+enum GeometryInput {
+    MeshColorInput,
+    MeshWidthInput,
+    MeshLinesInput, ///< which of the two sets of mesh lines are shown
+    BackgroundInput
+};
+
 /// The tool bars that a plot makes; the order is that of the context menu.
 enum PlotToolBarType {
     GridStyleToolBar = 1, ///< the faces of the box with grid lines

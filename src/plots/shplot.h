@@ -80,6 +80,9 @@ protected:
     void changeEvent(QEvent* event) override;
     void calculateHull() override;
     void drawArrays() override;
+    void createMesh() override;
+    bool isGeometryInput(GeometryInput input) const override;
+    int getCoarsest() const override;
     void createData() override;
     void createNormals() override;
     void createAddition(Addition& addition) override;
@@ -118,8 +121,10 @@ private:
     void convertGrid();
     void centreGrid();
     QVector<QVector3D> toExponents(const QVector<QVector3D>& vertices);
-    /// The node step of the surface; a stored resolution below 1 counts as 1.
+    /// The node step of the surface; a stored resolution below 1 counts as 1. Coarser in a preview.
     int nodeStep() const;
+    /// The step of the nodes at which a marker stands; below 1 there are none.
+    int markerStep(const Addition& marker) const;
     bool drawMarkerStyle();
     void drawGridSurface(int style);
     bool areArraysWanted() const;

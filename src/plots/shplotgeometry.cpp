@@ -46,6 +46,9 @@ void sendColor(const ColorChannels& color)
     glColor4d(color[0], color[1], color[2], color[3]);
 }
 
+/// Nodes that the shorter side of a grid keeps at least in a preview.
+constexpr int previewNodes = 32;
+
 /// Not a mode that OpenGL knows: it rejects the call and the polygon mode in force stays.
 constexpr unsigned int keptPolygonMode = 7;
 
@@ -53,12 +56,28 @@ constexpr unsigned int keptPolygonMode = 7;
 
 int SHPlot::nodeStep() const
 {
-    return std::max(getSettings().getResolution(), 1);
+    return std::max(getSettings().getResolution(), 1) * getCoarseness();
+}
+
+int SHPlot::getCoarsest() const
+{
+    if (getData() != gridData.get() || getSettings().getStyle() == NoPlot)
+        return 1;
+    const auto shorter = int(std::min(gridData->columns(), gridData->rows()));
+    return std::max(shorter / (previewNodes * std::max(getSettings().getResolution(), 1)), 1);
+}
+
+int SHPlot::markerStep(const Addition& marker) const
+{
+    // Additions are not what makes a grid large.
+    const bool isAdded = std::any_of(getAdditions().begin(), getAdditions().end(),
+                                     [&marker](const Addition* held) { return held == &marker; });
+    return getSettings().getResolution() * (isAdded ? 1 : getCoarseness());
 }
 
 void SHPlot::createData()
 {
-    if (!areArraysWanted())
+    if (!areArraysWanted() && getCoarseness() == 1)
         gridArrays->clear();
     if (getData() == gridData.get())
         createGridData();
@@ -72,6 +91,25 @@ void SHPlot::createNormals()
         createGridNormals();
     else if (getData() == cellData.get())
         createCellNormals();
+}
+
+void SHPlot::createMesh()
+{
+    if (getData() == gridData.get())
+        drawGridMesh(nodeStep());
+    else if (getData() == cellData.get())
+        drawCellMesh();
+}
+
+bool SHPlot::isGeometryInput(GeometryInput input) const
+{
+    const int style = getSettings().getStyle();
+    // A marker may use anything of its plot.
+    if (!getAdditions().isEmpty() || style == CustomMarkers)
+        return true;
+    if (input == BackgroundInput)
+        return style == HiddenLine;
+    return input == MeshColorInput && style == Histogram;
 }
 
 bool SHPlot::drawMarkerStyle()
@@ -114,13 +152,13 @@ void SHPlot::createGridData()
     if (style != Wireframe)
         drawGridSurface(style);
     if (hasMesh(style))
-        drawGridMesh(nodeStep());
+        sendMesh();
 }
 
 bool SHPlot::areArraysWanted() const
 {
-    return dataChanging && canDrawData() && getData() == gridData.get() && !gridData->isEmpty() &&
-           !gridData->hasMissing() && getSettings().getStyle() == Filled;
+    return dataChanging && getCoarseness() == 1 && canDrawData() && getData() == gridData.get() &&
+           !gridData->isEmpty() && !gridData->hasMissing() && getSettings().getStyle() == Filled;
 }
 
 // With the state that the list of the surface would set.
@@ -234,7 +272,7 @@ void SHPlot::createAddition(Addition& addition)
     addition.setPlot(*this);
     addition.drawBegin();
     if (getData() == gridData.get()) {
-        const int step = getSettings().getResolution();
+        const int step = markerStep(addition);
         if (step > 0)
             GridWalk(*gridData, step).nodes([&](int column, int row) {
                 addition.draw(gridData->valueAt(unsigned(column), unsigned(row)));
@@ -263,14 +301,13 @@ void SHPlot::createCellData()
     createCellViewProjection();
     if (drawMarkerStyle())
         return;
-    BaseDraw::setGLLineWidth(float(getSettings().getMesh().getLineWidth()));
     const GLMode offset(GL_POLYGON_OFFSET_FILL, true, false);
     BaseDraw::setGLPolygonOffset(float(getSettings().getPolygonOffset()), 1.0F);
     const BlendScope blending;
     if (style != Wireframe)
         drawCellSurface(style);
     if (hasMesh(style))
-        drawCellMesh();
+        sendMesh();
 }
 
 // Each vertex once, although several cells send it.
@@ -314,6 +351,7 @@ void SHPlot::drawCellSurface(int style)
 
 void SHPlot::drawCellMesh()
 {
+    BaseDraw::setGLLineWidth(float(getSettings().getMesh().getLineWidth()));
     sendColor(getSettings().getMesh().getColor());
     for (const QVector<unsigned int>& cell : cellData->getCells()) {
         if (!cellIsWhole(cell))

@@ -70,6 +70,7 @@ protected:
     void createPlotStyleActions() override;
     void calculateHull() override;
     void createData() override;
+    bool isGeometryInput(GeometryInput input) const override;
     void createNormals() override; ///< spectra have none
     void createAddition(Addition& addition) override;
     /// What is picked: the markers of the style, or the points of lines and sheets.

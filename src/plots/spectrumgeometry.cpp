@@ -148,6 +148,15 @@ void Spectrum::createData()
         createSpectrumData();
 }
 
+bool Spectrum::isGeometryInput(GeometryInput input) const
+{
+    const int style = getSettings().getStyle();
+    // A marker may use anything of its plot.
+    if (!getAdditions().isEmpty() || style == CustomMarkers)
+        return true;
+    return input == MeshWidthInput && style >= Lines;
+}
+
 void Spectrum::createNormals() {}
 
 void Spectrum::createAddition(Addition& addition)

@@ -6,11 +6,20 @@ namespace Zel3D {
 
 void DisplayList::compile(const std::function<void()>& record)
 {
-    remove();
-    id = glGenLists(1);
+    // Freed before and not by what replaces it: both need not fit into memory.
+    if (exists())
+        glDeleteLists(id, 1);
+    else
+        id = glGenLists(1);
     glNewList(id, GL_COMPILE);
     record();
     glEndList();
+}
+
+void DisplayList::reserve()
+{
+    if (!exists())
+        id = glGenLists(1);
 }
 
 void DisplayList::call() const

@@ -11,8 +11,10 @@ namespace Zel3D {
 class DisplayList
 {
 public:
-    /// Replaces the list by what \a record sends. Needs a current context.
+    /// Replaces the list by what \a record sends, under the name that it has. Needs a current context.
     void compile(const std::function<void()>& record);
+    /// Gives the list a name, by which others can call it before it is compiled. Needs a current context.
+    void reserve();
     /// Draws the list; nothing without one. Needs the list's context.
     void call() const;
     /// Frees the list. Needs the list's context.

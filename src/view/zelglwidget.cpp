@@ -2,6 +2,8 @@
 
 #include "view/zelglwidget.h"
 
+#include "view/contextcheck.h"
+#include "view/contextnote.h"
 #include "view/interaction.h"
 #include "view/light.h"
 #include "view/opengl.h"
@@ -21,12 +23,13 @@ constexpr int lightCount = 8;
 constexpr double lightRadius = 1.7320508075688774;
 constexpr int autoRotationInterval = 10; // ms
 constexpr int framesPerRun = 100;
+constexpr int restInterval = 180; // ms
 
 } // namespace
 
 ZelGLWidget::ZelGLWidget(const QString& name, const QString& organizationName, const QString& applicationName,
                          QWidget* parent, const QGLWidget* shareWidget, Qt::WindowFlags flags)
-    : QGLWidget(QGLFormat(QGL::DoubleBuffer | QGL::SampleBuffers), parent, shareWidget, flags),
+    : QGLWidget(ContextCheck::wantedFormat(), parent, shareWidget, flags),
       organization(organizationName),
       application(applicationName)
 {
@@ -37,6 +40,9 @@ ZelGLWidget::ZelGLWidget(const QString& name, const QString& organizationName, c
     autoRotationTimer = new QTimer(this);
     autoRotationTimer->setInterval(autoRotationInterval);
     connect(autoRotationTimer, &QTimer::timeout, this, &ZelGLWidget::updateGL);
+    restTimer = new QTimer(this);
+    restTimer->setInterval(restInterval);
+    connect(restTimer, &QTimer::timeout, this, &ZelGLWidget::rest);
 }
 
 ZelGLWidget::~ZelGLWidget()
@@ -61,7 +67,7 @@ bool ZelGLWidget::isAutoRotating() const
 
 bool ZelGLWidget::isContextCurrent() const
 {
-    return context() && QGLContext::currentContext() == context();
+    return isValid() && QGLContext::currentContext() == context();
 }
 
 void ZelGLWidget::initializeGL()
@@ -69,6 +75,9 @@ void ZelGLWidget::initializeGL()
     // The context may be a new one: until everything in it is made, the slots must not paint. Lighting itself
     // is off between frames; paintGL() switches it on where it is wanted.
     initialized = false;
+    uselessContext = ContextCheck::hasFixedFunction() ? nullptr : context();
+    if (!reviewContext())
+        return;
     glEnable(GL_BLEND);
     glEnable(GL_DEPTH_TEST);
     glShadeModel(GL_SMOOTH);
@@ -85,13 +94,15 @@ void ZelGLWidget::initializeGL()
 
 void ZelGLWidget::resizeGL(int width, int height)
 {
+    if (!initialized)
+        return;
     glViewport(0, 0, width, height);
     paintGL();
 }
 
 void ZelGLWidget::paintGL()
 {
-    if (busy)
+    if (busy || !initialized)
         return;
     if (isAutoRotating())
         autoRotationStep();
@@ -254,6 +265,7 @@ void ZelGLWidget::hideEvent(QHideEvent* event)
 {
     autoRotationTimer->stop();
     mousePressed = false;
+    setHandled(false);
     QGLWidget::hideEvent(event);
 }
 

@@ -10,6 +10,7 @@
 #include <QHash>
 #include <QList>
 #include <QPointF>
+#include <QPointer>
 #include <QVector>
 
 #include <array>
@@ -18,6 +19,7 @@ class QTimer;
 
 namespace Zel3D {
 
+class ContextNote;
 class Light;
 struct ViewPose;
 
@@ -70,6 +72,14 @@ public:
     bool isKeepProportions() const { return keepProportions; }
     /// Whether the OpenGL context has been set up.
     bool isInitialized() const { return initialized; }
+    /// Whether there is a context that the view can draw with.
+    bool isValid() const;
+    /// Why there is none, as the sentence that stands in the view's place; empty while all is well. Known
+    /// without a frame, too. Setters and loads work all the same, and show when a context comes.
+    QString getContextProblem() const;
+    /// The context as the driver made it, such as "OpenGL 4.5, compatibility profile, 4 samples, depth 24";
+    /// empty without one.
+    QString getContextDescription() const;
     /// Whether a released drag keeps the view turning.
     bool isAutoRotating() const;
     /// The eight lights; owned by the view for its whole life.
@@ -184,6 +194,8 @@ signals:
     void vieportShiftChanged(double x, double y);
     void scaleChanged(double x, double y, double z);
     void selectedObject(const Zel3D::SelectedObjectsInfo& info);
+    /// When the view is to be drawn and its problem is another than before; empty when it is gone.
+    void contextProblemChanged(const QString& problem);
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
@@ -195,6 +207,9 @@ protected:
     void initializeGL() override;
     void resizeGL(int width, int height) override;
     void paintGL() override;
+    void glInit() override;
+    void glDraw() override;
+    void resizeEvent(QResizeEvent* event) override;
 
     /// Draws in screen-relative placement, before the scene.
     virtual void drawWithoutTransform();
@@ -251,6 +266,15 @@ protected:
         bool before;
     };
     bool isBusy() const { return busy; }
+    /// Whether a person moves the view by mouse, wheel or keys, or has set it turning: until the button is
+    /// released or nothing has moved for a moment.
+    bool isHandled() const { return handled; }
+    /// Called when that changes; here nothing.
+    virtual void handlingChanged();
+    /// Called after a frame of the window with the milliseconds that it took since restartFrameTime(), or
+    /// from its beginning; here nothing.
+    virtual void frameDrawn(double milliseconds);
+    void restartFrameTime() { frameTime.start(); }
     /// Whether slotSetScale() acts; automatic scaling holds the scale.
     bool isScalingAllowed() const { return scalingAllowed; }
     void setScalingAllowed(bool on) { scalingAllowed = on; }
@@ -276,6 +300,11 @@ private:
     void writeProjectionType(Zel3D::ProjectionType type);
     void writeZoom(double factor);
 
+    bool reviewContext();
+    bool isContextAlive();
+    void recoverContext();
+    void setHandled(bool on);
+    void rest();
     void autoRotationStep();
     void drawScene(bool lightMarkers);
     void drawInfo();
@@ -306,10 +335,16 @@ private:
 
     QVector<Light*> lights;
     QTimer* autoRotationTimer = nullptr;
+    QTimer* restTimer = nullptr; ///< from the last move of a hand
+    QElapsedTimer frameTime;
     QElapsedTimer frameClock;
     int frameCounter = 0;
     int pickedName = 0;
     bool initialized = false;
+    const QGLContext* lostContext = nullptr;
+    const QGLContext* uselessContext = nullptr; ///< the functions of OpenGL 1.x fail in it
+    QString toldProblem;
+    QPointer<ContextNote> contextNote;
     bool busy = false;
     bool scalingAllowed = true;
 
@@ -317,6 +352,7 @@ private:
     QPointF dragPosition;
     ValueXY<double> dragStep;
     bool mousePressed = false;
+    bool handled = false;
     bool mouseEnabled = true;
     bool keyboardEnabled = true;
     Qt::KeyboardModifiers selectingModifiers = Qt::NoModifier;

@@ -20,6 +20,12 @@ ViewPose ZelGLWidget::pose() const
 void ZelGLWidget::applyPose(const ViewPose& to)
 {
     const ViewPose from = pose();
+    const bool shifts =
+        to.viewportShift.x != from.viewportShift.x || to.viewportShift.y != from.viewportShift.y;
+    const bool moves =
+        to.rotation != from.rotation || to.scale != from.scale || to.zoom != from.zoom || shifts;
+    if (moves)
+        setHandled(true);
     if (to.rotation != from.rotation)
         slotSetRotation(to.rotation);
     if (to.scale != from.scale)
@@ -27,7 +33,29 @@ void ZelGLWidget::applyPose(const ViewPose& to)
     if (to.zoom != from.zoom)
         slotSetZoom(to.zoom);
     slotSetViewportShift(to.viewportShift);
+    // From the end of the frame, which may take longer.
+    if (moves)
+        restTimer->start();
 }
+
+void ZelGLWidget::setHandled(bool on)
+{
+    if (!on)
+        restTimer->stop();
+    if (handled == on)
+        return;
+    handled = on;
+    handlingChanged();
+}
+
+/// A view that goes on turning is still on its way.
+void ZelGLWidget::rest()
+{
+    if (!isAutoRotating())
+        setHandled(false);
+}
+
+void ZelGLWidget::handlingChanged() {}
 
 void ZelGLWidget::mousePressEvent(QMouseEvent* event)
 {
@@ -69,6 +97,8 @@ void ZelGLWidget::mouseReleaseEvent(QMouseEvent* event)
     const bool fast = std::abs(dragStep.x) > deltaVelocity || std::abs(dragStep.y) > deltaVelocity;
     if (autoRotate && moved && fast)
         autoRotationTimer->start();
+    else
+        setHandled(false);
     QGLWidget::mouseReleaseEvent(event);
 }
 

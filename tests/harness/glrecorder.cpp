@@ -446,6 +446,13 @@ void glCallList(GLuint list)
     call(list);
 }
 
+void glDrawElements(GLenum mode, GLsizei count, GLenum type, const GLvoid* indices)
+{
+    static auto* const call = next<void(GLenum, GLsizei, GLenum, const GLvoid*)>("glDrawElements");
+    note("glDrawElements", mode, count, type);
+    call(mode, count, type, indices);
+}
+
 void glInitNames()
 {
     static auto* const call = next<void()>("glInitNames");

@@ -50,6 +50,24 @@ QStringList calls(Plot& plot)
     return recorder.calls();
 }
 
+/// What the list compiled first sends when it is called; in the place of a list that it calls what that
+/// sends.
+QStringList firstList(const QStringList& all)
+{
+    const auto contents = [&all](int start) {
+        return all.mid(start, all.indexOf("glEndList()", start) - start);
+    };
+    QStringList list = contents(all.indexOf(QRegularExpression("glNewList.*")));
+    const QRegularExpression calling("^glCallList\\((\\d+)\\)$");
+    for (int i = list.indexOf(calling); i >= 0; i = list.indexOf(calling)) {
+        const QString name = calling.match(list.takeAt(i)).captured(1);
+        const QStringList called = contents(all.indexOf(QRegularExpression("glNewList\\(" + name + ",.*")));
+        for (int k = called.size() - 1; k > 0; --k)
+            list.insert(i, called.at(k));
+    }
+    return list;
+}
+
 /// The nodes of primitives as "column row" pairs of digits: "00 10 01 11 | 10 20 11 21".
 QString nodes(const Primitives& primitives)
 {
@@ -320,9 +338,7 @@ void TestSHPlot::stateInTheList()
     plot.makeCurrent();
     glBlendFunc(GL_ONE, GL_DST_ALPHA);
     glLineWidth(4.0F);
-    const QStringList all = calls(plot);
-    const int start = all.indexOf(QRegularExpression("glNewList.*"));
-    const QStringList list = all.mid(start, all.indexOf("glEndList()") - start);
+    const QStringList list = firstList(calls(plot));
     const auto at = [&](const QString& call) { return list.indexOf(call); };
     const int begin = list.indexOf(QRegularExpression("glBegin.*"));
     const int end = list.lastIndexOf(QRegularExpression("glBegin.*"));
@@ -377,9 +393,7 @@ void TestSHPlot::opaqueSurfacesAreNotBlended()
     plot.setPlotStyle(style);
     QVERIFY(harness::show(plot, 80, 80));
     QVERIFY(cells ? plot.loadFromData(roof, roofCells, 1.0, 1.0) : Heights(4, 3, plane).into(plot));
-    const QStringList all = calls(plot);
-    const int start = all.indexOf(QRegularExpression("glNewList.*"));
-    const QStringList list = all.mid(start, all.indexOf("glEndList()") - start);
+    const QStringList list = firstList(calls(plot));
     const int off = list.indexOf(line("glDisable", {GL_BLEND}));
     QCOMPARE(off < 0, blended);
     if (blended)

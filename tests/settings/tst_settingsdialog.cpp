@@ -385,11 +385,11 @@ void TestSettingsDialog::onlyWhatMustBeIsRebuilt_data()
 {
     QTest::addColumn<QString>("id");
     QTest::addColumn<int>("builds");
-    for (const char* id :
-         {"common/rotationX", "common/zoom", "title/positionX", "title/text", "axes/axis0/line/color",
-          "lighting/light0/phi", "legend/numbers/color", "grid/color", "scales/x/linear/major"})
+    for (const char* id : {"common/rotationX", "common/zoom", "title/positionX", "title/text",
+                           "axes/axis0/line/color", "lighting/light0/phi", "legend/numbers/color",
+                           "grid/color", "scales/x/linear/major", "style/meshWidth"})
         QTest::newRow(id) << id << 0;
-    for (const char* id : {"style/meshWidth", "additions/dotSize", "common/resolution"})
+    for (const char* id : {"additions/dotSize", "common/resolution"})
         QTest::newRow(id) << id << 1;
 }
 

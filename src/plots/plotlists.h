@@ -1,0 +1,37 @@
+#pragma once
+
+#include "view/displaylist.h"
+
+class QGLContext;
+
+namespace Zel3D {
+
+/// The display lists of a plot, and which of them no longer show what the plot holds.
+struct PlotLists
+{
+    /// What a scene is drawn with.
+    struct Drawing
+    {
+        DisplayList normals;
+        DisplayList data; ///< the additions and the data
+        DisplayList mesh; ///< called from within the list of the data, so that it can be compiled alone
+        bool isMeshApart = false; ///< whether the list of the data calls that of the mesh
+
+        /// Needs the context of the lists.
+        void remove();
+        void forget();
+    };
+
+    Drawing drawing;
+    Drawing preview; ///< the same with fewer nodes
+    Drawing picture; ///< while a picture is drawn, those of the window
+    DisplayList selection;
+    const QGLContext* context = nullptr; ///< where the lists live
+    const QGLContext* pictureContext = nullptr;
+    bool isDataOld = false;
+    bool isMeshOld = false;
+    bool areNormalsOld = false;
+    bool isSelectionOld = true;
+};
+
+} // namespace Zel3D
