@@ -164,10 +164,6 @@
         <translation>Die Version zeigen und enden.</translation>
     </message>
     <message>
-        <source>Write the plot as %1 and leave; may stand beside other formats.</source>
-        <translation>Das Diagramm als %1 schreiben und enden; kann neben anderen Formaten stehen.</translation>
-    </message>
-    <message>
         <source>Leave out the background of pictures.</source>
         <translation>Den Hintergrund von Bildern weglassen.</translation>
     </message>
@@ -264,16 +260,24 @@
         <translation>Die Option --%1 ist für Rasterdateien; keine ist genannt.</translation>
     </message>
     <message>
-        <source>A picture is of one file, but %1 are named; name one file in each run.</source>
-        <translation>Ein Bild zeigt eine Datei, aber %1 sind genannt; in jedem Lauf eine Datei nennen.</translation>
-    </message>
-    <message>
         <source>The budget &quot;%1&quot; is not a whole number of nodes from %2 to %3.</source>
         <translation>Die Knotenzahl „%1“ ist keine ganze Zahl von %2 bis %3.</translation>
     </message>
     <message>
         <source>The part &quot;%1&quot; is not X0,Y0,X1,Y1, the coordinates of two corners.</source>
         <translation>Der Teil „%1“ ist nicht X0,Y0,X1,Y1, die Koordinaten zweier Ecken.</translation>
+    </message>
+    <message>
+        <source>Write the plot as %1 and leave; a folder takes a picture of each file. May stand beside other formats.</source>
+        <translation>Das Diagramm als %1 schreiben und beenden; ein Ordner nimmt ein Bild von jeder Datei auf. Darf neben anderen Formaten stehen.</translation>
+    </message>
+    <message>
+        <source>%1 files are named: name a folder for their pictures; &quot;%2&quot; is none.</source>
+        <translation>%1 Dateien sind genannt: Nennen Sie einen Ordner für ihre Bilder; „%2“ ist keiner.</translation>
+    </message>
+    <message>
+        <source>Two of the files have one name; their pictures in &quot;%1&quot; would be one.</source>
+        <translation>Zwei der Dateien haben denselben Namen; ihre Bilder in „%1“ wären eines.</translation>
     </message>
 </context>
 <context>

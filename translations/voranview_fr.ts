@@ -164,10 +164,6 @@
         <translation>Afficher la version et quitter.</translation>
     </message>
     <message>
-        <source>Write the plot as %1 and leave; may stand beside other formats.</source>
-        <translation>Écrire le graphique en %1 et quitter&#xa0;; peut accompagner d’autres formats.</translation>
-    </message>
-    <message>
         <source>Leave out the background of pictures.</source>
         <translation>Omettre l’arrière-plan des images.</translation>
     </message>
@@ -264,16 +260,24 @@
         <translation>L’option --%1 concerne les fichiers de grille&#xa0;; aucun n’est indiqué.</translation>
     </message>
     <message>
-        <source>A picture is of one file, but %1 are named; name one file in each run.</source>
-        <translation>Une image montre un fichier, mais %1 sont indiqués&#xa0;; indiquer un fichier à chaque lancement.</translation>
-    </message>
-    <message>
         <source>The budget &quot;%1&quot; is not a whole number of nodes from %2 to %3.</source>
         <translation>Le nombre de nœuds «&#xa0;%1&#xa0;» n’est pas un nombre entier de %2 à %3.</translation>
     </message>
     <message>
         <source>The part &quot;%1&quot; is not X0,Y0,X1,Y1, the coordinates of two corners.</source>
         <translation>La partie «&#xa0;%1&#xa0;» n’est pas X0,Y0,X1,Y1, les coordonnées de deux coins.</translation>
+    </message>
+    <message>
+        <source>Write the plot as %1 and leave; a folder takes a picture of each file. May stand beside other formats.</source>
+        <translation>Écrire le graphique au format %1 et quitter&#xa0;; un dossier reçoit une image de chaque fichier. Peut accompagner d’autres formats.</translation>
+    </message>
+    <message>
+        <source>%1 files are named: name a folder for their pictures; &quot;%2&quot; is none.</source>
+        <translation>%1 fichiers sont nommés&#xa0;: nommez un dossier pour leurs images&#xa0;; «&#xa0;%2&#xa0;» n’en est pas un.</translation>
+    </message>
+    <message>
+        <source>Two of the files have one name; their pictures in &quot;%1&quot; would be one.</source>
+        <translation>Deux des fichiers ont le même nom&#xa0;; leurs images dans «&#xa0;%1&#xa0;» n’en feraient qu’une.</translation>
     </message>
 </context>
 <context>

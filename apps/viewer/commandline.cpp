@@ -6,6 +6,8 @@
 #include "startview.h"
 #include "viewerpreferences.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -105,7 +107,9 @@ void CommandLine::addPictureOptions()
     for (const char* format : pictureFormats) {
         const QString name = QString(format).toUpper();
         m_parser.addOption({format,
-                            tr("Write the plot as %1 and leave; may stand beside other formats.").arg(name),
+                            tr("Write the plot as %1 and leave; a folder takes a picture of each file. May "
+                               "stand beside other formats.")
+                                .arg(name),
                             "PICTURE"});
     }
     m_parser.addOption({"transparent", tr("Leave out the background of pictures.")});
@@ -203,12 +207,29 @@ CommandLine::Outcome CommandLine::checkPictures()
 {
     if (!m_pictures.isEmpty() && m_files.isEmpty() && m_formula.isEmpty())
         return refuse(tr("A picture needs a file or a formula to show; none is named."));
-    if (!m_pictures.isEmpty() && m_files.size() > 1)
-        return refuse(
-            tr("A picture is of one file, but %1 are named; name one file in each run.").arg(m_files.size()));
+    for (const WantedPicture& picture : qAsConst(m_pictures)) {
+        QSet<QString> taken;
+        for (const QString& file : qAsConst(m_files))
+            taken.insert(picturePath(picture, file));
+        if (m_files.size() > 1 && !QFileInfo(picture.path).isDir())
+            return refuse(tr("%1 files are named: name a folder for their pictures; \"%2\" is none.")
+                              .arg(m_files.size())
+                              .arg(picture.path));
+        if (taken.size() < m_files.size())
+            return refuse(tr("Two of the files have one name; their pictures in \"%1\" would be one.")
+                              .arg(picture.path));
+    }
     if (isTransparent() && m_pictures.isEmpty())
         return refuse(tr("The option --transparent is for pictures; none is named."));
     return Show;
+}
+
+QString CommandLine::picturePath(const WantedPicture& picture, const QString& file)
+{
+    if (!QFileInfo(picture.path).isDir())
+        return picture.path;
+    const QString name = file.isEmpty() ? QStringLiteral("plot") : QFileInfo(file).completeBaseName();
+    return QDir(picture.path).filePath(name + '.' + picture.format);
 }
 
 QSet<PlotKind> CommandLine::kinds() const

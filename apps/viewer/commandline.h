@@ -73,6 +73,9 @@ public:
     const std::array<bool, 3>& logarithmic() const { return m_logarithmic; }
     /// The pictures to write; none to open a window.
     const QVector<WantedPicture>& pictures() const { return m_pictures; }
+    /// Where the picture of a file, or of the formula for an empty one, is written: in a folder under the
+    /// file's name.
+    static QString picturePath(const WantedPicture& picture, const QString& file);
     /// Whether pictures have nothing behind the plot.
     bool isTransparent() const { return m_parser.isSet("transparent"); }
 

@@ -14,6 +14,7 @@
 #include <QApplication>
 #include <QLoggingCategory>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <optional>
@@ -101,15 +102,16 @@ void tellNotes(const PlotSource& source)
             "main", "--part shows a part of it in full, --budget more nodes of all of it."));
 }
 
-int savePictures(Zel3D::BasePlot& plot, const CommandLine& wanted, const QSize& size, ProgressLine& line)
+int savePictures(Zel3D::BasePlot& plot, const CommandLine& wanted, const QString& file, const QSize& size,
+                 ProgressLine& line)
 {
     Zel3D::PictureOptions options;
     options.pixels = size;
     options.transparent = wanted.isTransparent();
     for (const WantedPicture& picture : wanted.pictures()) {
-        options.progress = line.pictureProgress(picture.path);
-        const Zel3D::PictureResult result =
-            Zel3D::PictureWriter::save(plot, picture.path, options, picture.format);
+        const QString path = CommandLine::picturePath(picture, file);
+        options.progress = line.pictureProgress(path);
+        const Zel3D::PictureResult result = Zel3D::PictureWriter::save(plot, path, options, picture.format);
         line.clear();
         if (result.cancelled)
             return interruptedStatus;
@@ -121,18 +123,16 @@ int savePictures(Zel3D::BasePlot& plot, const CommandLine& wanted, const QSize& 
     return EXIT_SUCCESS;
 }
 
-int takePictures(const CommandLine& wanted)
+/// The pictures of one source.
+int takePictures(PlotSource& source, const CommandLine& wanted, ProgressLine& line)
 {
-    std::signal(SIGINT, interrupt);
-    ProgressLine line(stderr, [] { return interruptions != 0; });
-    const std::unique_ptr<PlotSource> source = std::move(sourcesOf(wanted).front());
-    const std::unique_ptr<PlotView> view = source->open(line.loadProgress(source->name()));
+    const std::unique_ptr<PlotView> view = source.open(line.loadProgress(source.name()));
     line.clear();
-    if (source->isCancelled())
+    if (source.isCancelled())
         return interruptedStatus;
     if (!view)
-        return refuse(source->error());
-    tellNotes(*source);
+        return refuse(source.error());
+    tellNotes(source);
     const QSize size = wanted.size().value_or(usualPicture);
     Zel3D::BasePlot& plot = view->plot();
     plot.resize(size / plot.devicePixelRatioF());
@@ -142,7 +142,25 @@ int takePictures(const CommandLine& wanted)
         view->setLook(*wanted.look());
     view->resetView();
     QString error;
-    return dress(*view, wanted, error) ? savePictures(plot, wanted, size, line) : refuse(error);
+    return dress(*view, wanted, error) ? savePictures(plot, wanted, source.filePath(), size, line)
+                                       : refuse(error);
+}
+
+/// Those of all sources, as far as they can be shown.
+int takePictures(const CommandLine& wanted)
+{
+    std::signal(SIGINT, interrupt);
+    ProgressLine line(stderr, [] { return interruptions != 0; });
+    int status = EXIT_SUCCESS;
+    for (std::unique_ptr<PlotSource>& source : sourcesOf(wanted)) {
+        const int done = takePictures(*source, wanted, line);
+        // What was read is not needed any more.
+        source.reset();
+        if (done == interruptedStatus)
+            return done;
+        status = std::max(status, done);
+    }
+    return status;
 }
 
 /// Shows a source in the window as it was asked for. False when that fails; \a error says why.

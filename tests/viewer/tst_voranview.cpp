@@ -92,6 +92,7 @@ private slots:
     void everyKindMakesAPicture_data();
     void everyKindMakesAPicture();
     void everyFormatIsWrittenInOneRun();
+    void aFolderTakesAPictureOfEachFile();
     void optionsChangeThePicture_data();
     void optionsChangeThePicture();
     void notesGoToTheErrors();
@@ -149,7 +150,7 @@ void TestVoranview::refusalsAreOneSentence_data()
     QTest::newRow("band") << QStringList{"--band", "0", example} << Screen::None << "\"0\"";
     QTest::newRow("unknown option") << QStringList{"--fast"} << Screen::None << "fast";
     QTest::newRow("picture of two files") << QStringList{example, examples + "bunny.off", "--png", picture}
-                                          << Screen::None << "but 2 are named";
+                                          << Screen::None << "2 files are named: name a folder";
     QTest::newRow("style of one kind for two")
         << QStringList{example, examples + "gasoline_nir.csv", "--style", "mesh"} << Screen::None
         << "Spectra have no plot style \"mesh\"";
@@ -207,8 +208,6 @@ void TestVoranview::refusalsAreOneSentence_data()
                                     << Screen::Virtual << "the folder";
     QTest::newRow("folder below a file")
         << QStringList{example, "--png", example + "/a.png"} << Screen::Virtual << "the folder";
-    QTest::newRow("folder as picture")
-        << QStringList{example, "--png", m_folder.path()} << Screen::Virtual << "it is a folder";
 }
 
 void TestVoranview::refusalsAreOneSentence()
@@ -251,6 +250,26 @@ void TestVoranview::everyKindMakesAPicture()
         (500.0 * 400.0);
     QVERIFY2(part > coloured, qPrintable(QString::number(part)));
     QVERIFY(QFile::remove(path));
+}
+
+void TestVoranview::aFolderTakesAPictureOfEachFile()
+{
+    QVERIFY(QDir(m_folder.path()).mkpath("pictures/copy"));
+    const QDir pictures(m_folder.filePath("pictures"));
+    const QString mesh = examples + "bunny.off";
+    const QString copy = pictures.filePath("copy/bunny.off");
+    QVERIFY(QFile::copy(mesh, copy));
+    const QStringList files{example, "missing.asc", examples + "gasoline_nir.csv"};
+    const Outcome outcome = runViewer(QStringList{"--size", "200x150", "--png", pictures.path()} + files);
+    // What can be shown is written; what cannot be is told.
+    QCOMPARE(outcome.status, 1);
+    QVERIFY2(outcome.errors.contains("missing.asc"), qPrintable(outcome.errors));
+    QCOMPARE(pictures.entryList(QDir::Files), (QStringList{"gasoline_nir.png", "jacksboro_dem.png"}));
+    QVERIFY(QImage(pictures.filePath("gasoline_nir.png")) != QImage(pictures.filePath("jacksboro_dem.png")));
+    const Outcome twins = runViewer({"--png", pictures.path(), mesh, copy});
+    QCOMPARE(twins.status, 1);
+    QVERIFY2(twins.errors.contains("have one name"), qPrintable(twins.errors));
+    QVERIFY(QDir(pictures).removeRecursively());
 }
 
 void TestVoranview::everyFormatIsWrittenInOneRun()
