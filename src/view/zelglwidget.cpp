@@ -177,9 +177,9 @@ void ZelGLWidget::orthoGL()
 {
     const double r = getRadius();
     const QVector3D c = getCenter();
-    const QVector3D s = second();
-    const QVector3D f = first();
-    const bool empty = f.x() == s.x() && f.y() == s.y() && f.z() == s.z();
+    // A box so small that its radius is no number above zero counts as empty, too: OpenGL takes no such
+    // volume.
+    const bool empty = !(r > 0.0);
     const double windowAspect = double(qMax(width(), 1)) / qMax(height(), 1);
     const double aspect = !keepProportions ? 1.0 : frameAspect > 0.0 ? frameAspect : windowAspect;
     const double halfWidth = (empty ? 1.0 : r) * qMax(aspect, 1.0);

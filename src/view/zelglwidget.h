@@ -303,6 +303,7 @@ private:
     bool reviewContext();
     bool isContextAlive();
     void recoverContext();
+    void followScreen();
     void setHandled(bool on);
     void rest();
     void autoRotationStep();
@@ -324,6 +325,7 @@ private:
     ValueXY<double> viewportShift;
     ValueXYZ<double> scale{1.0, 1.0, 1.0};
     double zoom = 1.0;
+    double drawnRatio = 1.0; ///< device pixels to a pixel when the viewport was set last
     double frameAspect = 0.0;
     ProjectionType projectionType = Orthogonal;
     bool selecting = false;

@@ -42,11 +42,25 @@ void ZelGLWidget::glDraw()
 {
     if (!reviewContext() || !isContextAlive())
         return;
+    followScreen();
     // With the exchange of the buffers, at which a driver waits that lags behind.
     restartFrameTime();
     QGLWidget::glDraw();
     if (initialized && !busy)
         frameDrawn(double(frameTime.nsecsElapsed()) / 1e6);
+}
+
+/// On the way to a screen of another pixel ratio the size stays the same, and no event tells.
+void ZelGLWidget::followScreen()
+{
+    const double ratio = devicePixelRatioF();
+    if (ratio == drawnRatio)
+        return;
+    drawnRatio = ratio;
+    if (!initialized)
+        return;
+    makeCurrent();
+    resizeGL(qRound(width() * ratio), qRound(height() * ratio));
 }
 
 void ZelGLWidget::frameDrawn(double /*milliseconds*/) {}
