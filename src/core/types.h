@@ -11,21 +11,23 @@ namespace Zel3D {
 // Forms name the values of an enumeration that is known here.
 Q_NAMESPACE_EXPORT(VORANPLOT_EXPORT)
 
+// Enumerations that are stored have a fixed type: a damaged store may hold any number.
+
 /// The camera of the view. The values are persisted and are the order of the settings' combo box.
-enum ProjectionType {
+enum ProjectionType : int {
     Orthogonal = 0, ///< parallel rays, shown as "Orthogonal"
     Perspective = 1 ///< rays through one eye point, shown as "Perspective"
 };
 Q_ENUM_NS(ProjectionType)
 
 /// The scale of an axis. The values are persisted and are the order of the settings' combo box.
-enum ScaleType {
+enum ScaleType : int {
     Linear = 0,     ///< shown as "Linear"
     Logarithmic = 1 ///< base 10; positions are decimal exponents; shown as "Logarithmic"
 };
 
 /// A coordinate direction.
-enum BaseAxisType {
+enum BaseAxisType : int {
     XAxis = 0, ///< the x direction
     YAxis = 1, ///< the y direction
     ZAxis = 2  ///< the z direction
@@ -33,7 +35,7 @@ enum BaseAxisType {
 
 /// One of the twelve edges of the coordinate box and the axis object that stands on it. The name says the
 /// direction of the edge and the two faces that meet in it.
-enum AxisType {
+enum AxisType : int {
     XFrontBottom = 0,
     YLeftBottom = 1,
     ZBackLeft = 2,

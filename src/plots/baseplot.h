@@ -56,7 +56,7 @@ class VORANPLOT_EXPORT BasePlot : public ZelGLWidget
     Q_PROPERTY(QColor backgroundColor READ getBackgroundColor WRITE writeBackgroundColor)
 public:
     /// The looks of the library by name.
-    enum StandardLook { NoLook, LightLook, DarkLook, PrintLook };
+    enum StandardLook : int { NoLook, LightLook, DarkLook, PrintLook };
     Q_ENUM(StandardLook)
 
     class MeshSettings;

@@ -18,14 +18,14 @@ enum ViewProjection : int {
 };
 
 /// How the scale of the view comes about.
-enum BoxScaling {
+enum BoxScaling : int {
     CubeScaling = 0,  ///< automatic scaling: the box of the data is drawn as a cube
     EqualUnits = 1,   ///< one unit is as long on every axis
     ManualScaling = 2 ///< by hand: gestures, keys and setScale()
 };
 
 /// The values that a plot's geometry may be compiled with or without; see BasePlot::isGeometryInput().
-enum GeometryInput {
+enum GeometryInput : int {
     MeshColorInput,
     MeshWidthInput,
     MeshLinesInput, ///< which of the two sets of mesh lines are shown
@@ -33,7 +33,7 @@ enum GeometryInput {
 };
 
 /// The tool bars that a plot makes; the order is that of the context menu.
-enum PlotToolBarType {
+enum PlotToolBarType : int {
     GridStyleToolBar = 1, ///< the faces of the box with grid lines
     PlotStyleToolBar = 2, ///< the plot styles
     ViewsToolBar = 3      ///< the standard views

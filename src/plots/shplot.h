@@ -29,7 +29,7 @@ class VORANPLOT_EXPORT SHPlot : public BasePlot
     Q_PROPERTY(Style plotStyle READ getStyle WRITE writeStyle)
 public:
     /// What plotStyle shows of the data.
-    enum Style { NoPlot, Points, Wireframe, HiddenLine, Filled, FilledMesh, Histogram };
+    enum Style : int { NoPlot, Points, Wireframe, HiddenLine, Filled, FilledMesh, Histogram };
     Q_ENUM(Style)
 
     /// For forms: takes the names of the application for its settings; the object name may follow.

@@ -31,7 +31,7 @@ class VORANPLOT_EXPORT Spectrum : public BasePlot
     Q_PROPERTY(Style plotStyle READ getStyle WRITE writeStyle)
 public:
     /// What plotStyle shows of the data.
-    enum Style { NoPlot, Points, Lines, Filled, FilledFrame };
+    enum Style : int { NoPlot, Points, Lines, Filled, FilledFrame };
     Q_ENUM(Style)
 
     /// For forms: takes the names of the application for its settings; the object name may follow.

@@ -24,7 +24,7 @@ class VORANPLOT_EXPORT Light : public QObject
     Q_OBJECT
 public:
     /// The kind of light; the values are persisted.
-    enum LightType {
+    enum LightType : int {
         Directional = 0, ///< parallel rays, shown as "Directional"
         Dotted = 1,      ///< point light, shown as "Dotted"
         Spot = 2         ///< cone of light, shown as "Spot"
