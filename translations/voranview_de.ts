@@ -1375,7 +1375,7 @@
     </message>
     <message>
         <source>Both</source>
-        <translation>Beidseitig</translation>
+        <translation>Beide</translation>
     </message>
     <message>
         <source>The picked spectrum</source>

@@ -1375,7 +1375,7 @@
     </message>
     <message>
         <source>Both</source>
-        <translation>Des deux côtés</translation>
+        <translation>Les deux</translation>
     </message>
     <message>
         <source>The picked spectrum</source>

@@ -130,6 +130,7 @@ void ViewerWindow::createTabs()
     m_tabActions = new TabActions(*m_tabs);
     m_fileMenu->addSeparator();
     m_tabActions->fillFileMenu(*m_fileMenu);
+    m_fileMenu->addSeparator();
     m_fileMenu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence(Qt::CTRL + Qt::Key_Q));
 }
 

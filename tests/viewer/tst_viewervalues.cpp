@@ -65,6 +65,7 @@ private slots:
     void slicesAreSavedWhole();
     void rulerHasRoundNumbers_data();
     void rulerHasRoundNumbers();
+    void lowRulerHasTwoNumbers();
     void spectrumIsSliced();
     void logarithmicValuesArePlain();
     void largeTableIsCheap();
@@ -277,6 +278,16 @@ void TestViewerValues::rulerHasRoundNumbers()
     for (int i = 0; i < ticks.size(); ++i) {
         QVERIFY2(std::abs(found[i] - ticks[i]) <= 1e-9 * std::abs(ticks[i]), qPrintable(texts.join(' ')));
         QVERIFY(ruler.part(found[i]) >= -1e-9 && ruler.part(found[i]) <= 1.0 + 1e-9);
+    }
+}
+
+void TestViewerValues::lowRulerHasTwoNumbers()
+{
+    for (const int most : {1, 2}) {
+        const QVector<double> found = SliceRuler({0.02, 0.14}, false, 0.0).ticks(most);
+        QCOMPARE(found.size(), 2);
+        QCOMPARE(found[0], 0.05);
+        QCOMPARE(found[1], 0.1);
     }
 }
 
