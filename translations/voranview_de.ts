@@ -1622,10 +1622,6 @@
         <translation>voranview</translation>
     </message>
     <message>
-        <source>Drop a grid, spectra or a mesh into this window.</source>
-        <translation>Ein Raster, Spektren oder ein Netz in dieses Fenster ziehen.</translation>
-    </message>
-    <message>
         <source>&amp;Open a file...</source>
         <translation>Datei &amp;öffnen...</translation>
     </message>
@@ -1648,6 +1644,10 @@
     <message>
         <source>%1 (missing)</source>
         <translation>%1 (fehlt)</translation>
+    </message>
+    <message>
+        <source>Drop a grid, spectra or a mesh into this window, or paste a table.</source>
+        <translation>Ein Raster, Spektren oder ein Netz in dieses Fenster ziehen oder eine Tabelle einfügen.</translation>
     </message>
 </context>
 <context>

@@ -1622,10 +1622,6 @@
         <translation>voranview</translation>
     </message>
     <message>
-        <source>Drop a grid, spectra or a mesh into this window.</source>
-        <translation>Déposer une grille, des spectres ou un maillage dans cette fenêtre.</translation>
-    </message>
-    <message>
         <source>&amp;Open a file...</source>
         <translation>&amp;Ouvrir un fichier...</translation>
     </message>
@@ -1648,6 +1644,10 @@
     <message>
         <source>%1 (missing)</source>
         <translation>%1 (introuvable)</translation>
+    </message>
+    <message>
+        <source>Drop a grid, spectra or a mesh into this window, or paste a table.</source>
+        <translation>Déposer une grille, des spectres ou un maillage dans cette fenêtre, ou coller un tableau.</translation>
     </message>
 </context>
 <context>

@@ -14,6 +14,7 @@
 #include <QClipboard>
 #include <QDockWidget>
 #include <QFileInfo>
+#include <QLayout>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMessageBox>
@@ -28,7 +29,7 @@ namespace {
 constexpr int messageTime = 8000;
 constexpr int refreshTime = 500;
 /// What docks leave to the plots.
-constexpr QSize plotRoom(420, 280);
+constexpr QSize plotRoom(420, 200);
 
 /// The files that addresses, or a text of one line, name.
 QStringList filesOf(const QMimeData& data)
@@ -288,6 +289,8 @@ void DataActions::leaveRoom()
             m_window.resizeDocks({dock}, {dock->width() - lacking.width()}, Qt::Horizontal);
         else if (!aside && lacking.height() > 0)
             m_window.resizeDocks({dock}, {dock->height() - lacking.height()}, Qt::Vertical);
+        // Each is reckoned from the sizes before otherwise.
+        m_window.layout()->activate();
     }
 }
 

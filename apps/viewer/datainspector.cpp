@@ -68,6 +68,7 @@ QWidget* DataInspector::makeFacts()
     m_lines->setHorizontalSpacing(10);
     m_lines->setLabelAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_lines->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    m_lines->setRowWrapPolicy(QFormLayout::WrapLongRows);
     layout->addWidget(m_facts);
     m_histogram = new HistogramView;
     layout->addWidget(m_histogram);

@@ -23,7 +23,7 @@ namespace {
 constexpr char shownKey[] = "slice/shown";
 constexpr char folderKey[] = "slice/folder";
 constexpr QSize usualSize(640, 200);
-constexpr QSize leastSize(200, 110);
+constexpr QSize leastSize(200, 140);
 constexpr int narrowLetters = 70;
 
 const QColor rowColor(31, 119, 180);

@@ -77,6 +77,7 @@ private slots:
     void pastedOrDroppedPathOpens();
     void uselessClipboardSaysSo();
     void plotClosesUnderTheDocks();
+    void docksLeaveRoomToThePlot();
     void movingDataAreFollowed();
     void pictureIsDraggedFromItsHandle();
 
@@ -534,6 +535,30 @@ void TestViewerValues::plotClosesUnderTheDocks()
     again.show();
     again.openFile(examples + "bunny.off");
     QVERIFY(again.findChild<QDockWidget*>("dataDock")->isVisible());
+}
+
+void TestViewerValues::docksLeaveRoomToThePlot()
+{
+    m_window->resize(1000, 800);
+    m_window->openFile(examples + "jacksboro_dem.asc");
+    action("Data")->trigger();
+    action("Slice")->trigger();
+    QTest::qWait(50);
+    auto* dock = child<QDockWidget>("dataDock");
+    const int usual = dock->width();
+    for (const QSize& size : {QSize(1000, 800), QSize(700, 500)}) {
+        m_window->resize(size);
+        QTest::qWait(50);
+        const QSize plot = m_window->page()->plot().size();
+        QVERIFY2(plot.width() >= 420 && plot.height() >= 200, qPrintable(QString::number(plot.width())));
+    }
+    QVERIFY(dock->width() < usual);
+    // In the narrow dock no value is cut off.
+    const QList<QLabel*> labels = dock->findChildren<QLabel*>();
+    for (const QLabel* label : labels) {
+        const int right = label->mapTo(dock, QPoint(label->minimumSizeHint().width(), 0)).x();
+        QVERIFY2(!label->isVisible() || right <= dock->width(), qPrintable(label->text()));
+    }
 }
 
 void TestViewerValues::movingDataAreFollowed()
