@@ -1367,7 +1367,7 @@
     </message>
     <message>
         <source>Across</source>
-        <translation>Horizontalement</translation>
+        <translation>En travers</translation>
     </message>
     <message>
         <source>Column</source>

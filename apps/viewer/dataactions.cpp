@@ -29,7 +29,7 @@ namespace {
 constexpr int messageTime = 8000;
 constexpr int refreshTime = 500;
 /// What docks leave to the plots.
-constexpr QSize plotRoom(420, 200);
+constexpr QSize plotRoom(452, 200);
 
 /// The files that addresses, or a text of one line, name.
 QStringList filesOf(const QMimeData& data)

@@ -550,7 +550,7 @@ void TestViewerValues::docksLeaveRoomToThePlot()
         m_window->resize(size);
         QTest::qWait(50);
         const QSize plot = m_window->page()->plot().size();
-        QVERIFY2(plot.width() >= 420 && plot.height() >= 200, qPrintable(QString::number(plot.width())));
+        QVERIFY2(plot.width() >= 452 && plot.height() >= 200, qPrintable(QString::number(plot.width())));
     }
     QVERIFY(dock->width() < usual);
     // In the narrow dock no value is cut off.
