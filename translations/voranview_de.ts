@@ -1379,7 +1379,7 @@
     </message>
     <message>
         <source>Both</source>
-        <translation>Beidseitig</translation>
+        <translation>Beide</translation>
     </message>
     <message>
         <source>The picked spectrum</source>
@@ -1626,10 +1626,6 @@
         <translation>voranview</translation>
     </message>
     <message>
-        <source>Drop a grid, spectra or a mesh into this window.</source>
-        <translation>Ein Raster, Spektren oder ein Netz in dieses Fenster ziehen.</translation>
-    </message>
-    <message>
         <source>&amp;Open a file...</source>
         <translation>Datei &amp;öffnen...</translation>
     </message>
@@ -1652,6 +1648,10 @@
     <message>
         <source>%1 (missing)</source>
         <translation>%1 (fehlt)</translation>
+    </message>
+    <message>
+        <source>Drop a grid, spectra or a mesh into this window, or paste a table.</source>
+        <translation>Ein Raster, Spektren oder ein Netz in dieses Fenster ziehen oder eine Tabelle einfügen.</translation>
     </message>
 </context>
 <context>

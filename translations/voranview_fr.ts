@@ -1371,7 +1371,7 @@
     </message>
     <message>
         <source>Across</source>
-        <translation>Horizontalement</translation>
+        <translation>En travers</translation>
     </message>
     <message>
         <source>Column</source>
@@ -1379,7 +1379,7 @@
     </message>
     <message>
         <source>Both</source>
-        <translation>Des deux côtés</translation>
+        <translation>Les deux</translation>
     </message>
     <message>
         <source>The picked spectrum</source>
@@ -1626,10 +1626,6 @@
         <translation>voranview</translation>
     </message>
     <message>
-        <source>Drop a grid, spectra or a mesh into this window.</source>
-        <translation>Déposer une grille, des spectres ou un maillage dans cette fenêtre.</translation>
-    </message>
-    <message>
         <source>&amp;Open a file...</source>
         <translation>&amp;Ouvrir un fichier...</translation>
     </message>
@@ -1652,6 +1648,10 @@
     <message>
         <source>%1 (missing)</source>
         <translation>%1 (introuvable)</translation>
+    </message>
+    <message>
+        <source>Drop a grid, spectra or a mesh into this window, or paste a table.</source>
+        <translation>Déposer une grille, des spectres ou un maillage dans cette fenêtre, ou coller un tableau.</translation>
     </message>
 </context>
 <context>

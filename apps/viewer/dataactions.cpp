@@ -14,6 +14,7 @@
 #include <QClipboard>
 #include <QDockWidget>
 #include <QFileInfo>
+#include <QLayout>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMessageBox>
@@ -27,6 +28,8 @@ namespace {
 
 constexpr int messageTime = 8000;
 constexpr int refreshTime = 500;
+/// What docks leave to the plots.
+constexpr QSize plotRoom(452, 200);
 
 /// The files that addresses, or a text of one line, name.
 QStringList filesOf(const QMimeData& data)
@@ -51,7 +54,11 @@ QStringList filesOf(const QMimeData& data)
 } // namespace
 
 DataActions::DataActions(QMainWindow& window, QMenu& editMenu, QMenu& viewMenu, Opener opener)
-    : QObject(&window), m_window(window), m_opener(std::move(opener)), m_refresh(new QTimer(this))
+    : QObject(&window),
+      m_window(window),
+      m_opener(std::move(opener)),
+      m_refresh(new QTimer(this)),
+      m_room(new QTimer(this))
 {
     editMenu
         .addAction(
@@ -65,6 +72,11 @@ DataActions::DataActions(QMainWindow& window, QMenu& editMenu, QMenu& viewMenu, 
     createDocks(viewMenu);
     m_refresh->setInterval(refreshTime);
     connect(m_refresh, &QTimer::timeout, this, &DataActions::refresh);
+    // After the window has laid out its parts.
+    m_room->setSingleShot(true);
+    m_room->setInterval(0);
+    connect(m_room, &QTimer::timeout, this, &DataActions::leaveRoom);
+    m_window.installEventFilter(this);
     setPage(nullptr);
 }
 
@@ -93,7 +105,10 @@ void DataActions::createDocks(QMenu& viewMenu)
     // What was picked while they were hidden.
     for (QDockWidget* dock : {m_dataDock, m_sliceDock}) {
         connect(dock, &QDockWidget::visibilityChanged, this, [this](bool visible) {
-            if (visible && m_place)
+            if (!visible)
+                return;
+            m_room->start();
+            if (m_place)
                 choose(*m_place);
         });
     }
@@ -240,6 +255,8 @@ void DataActions::clicked()
 
 bool DataActions::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == &m_window && event->type() == QEvent::Resize)
+        m_room->start();
     const bool press = event->type() == QEvent::MouseButtonPress;
     if ((press || event->type() == QEvent::MouseButtonRelease) && m_page && watched == &m_page->plot()) {
         const auto* mouse = static_cast<QMouseEvent*>(event);
@@ -258,6 +275,23 @@ void DataActions::refresh()
         m_inspector->refresh();
     if (m_sliceDock->isVisible())
         m_slice->refresh();
+}
+
+void DataActions::leaveRoom()
+{
+    const QSize lacking = plotRoom - m_window.centralWidget()->size();
+    for (QDockWidget* dock : {m_dataDock, m_sliceDock}) {
+        if (!dock->isVisible() || dock->isFloating())
+            continue;
+        const Qt::DockWidgetArea area = m_window.dockWidgetArea(dock);
+        const bool aside = area == Qt::LeftDockWidgetArea || area == Qt::RightDockWidgetArea;
+        if (aside && lacking.width() > 0)
+            m_window.resizeDocks({dock}, {dock->width() - lacking.width()}, Qt::Horizontal);
+        else if (!aside && lacking.height() > 0)
+            m_window.resizeDocks({dock}, {dock->height() - lacking.height()}, Qt::Vertical);
+        // Each is reckoned from the sizes before otherwise.
+        m_window.layout()->activate();
+    }
 }
 
 void DataActions::dragPicture()

@@ -46,7 +46,7 @@ public:
     void take(const QMimeData& data);
 
 protected:
-    /// A click in the plot holds the point under the mouse.
+    /// A click in the plot holds the point under the mouse; in a smaller window the docks give way.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -68,6 +68,8 @@ private:
     void dragPicture();
     void tell(const QString& sentence);
     QString hint() const;
+    /// Where the window is small, docks are narrower than usual rather than the plot hardly seen.
+    void leaveRoom();
 
     QMainWindow& m_window;
     Opener m_opener;
@@ -77,6 +79,7 @@ private:
     QDockWidget* m_sliceDock = nullptr;
     QList<QAction*> m_showActions; ///< of the docks
     QTimer* m_refresh = nullptr;
+    QTimer* m_room = nullptr;
     PlotPage* m_page = nullptr;
     std::unique_ptr<PlotValues> m_values;
     std::unique_ptr<QObject> m_following; ///< of the connections to the page

@@ -22,8 +22,19 @@ namespace {
 constexpr int bars = 64;
 constexpr double manyCells = 2e6; ///< a summary takes noticeable time
 constexpr double mostFacts = 0.6; ///< of the height
+constexpr int longestWord = 22;   ///< letters
 constexpr QSize usualSize(330, 520);
 constexpr QSize leastSize(180, 120);
+
+/// A label takes less, and cuts its longest word off. A very long one is cut off all the same, rather than
+/// all other values with it.
+int widthOfWords(const QLabel& label)
+{
+    int widest = 0;
+    for (const QString& word : label.text().split(' '))
+        widest = std::max(widest, label.fontMetrics().horizontalAdvance(word));
+    return std::min(widest + 1, longestWord * label.fontMetrics().averageCharWidth());
+}
 
 } // namespace
 
@@ -68,6 +79,7 @@ QWidget* DataInspector::makeFacts()
     m_lines->setHorizontalSpacing(10);
     m_lines->setLabelAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_lines->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    m_lines->setRowWrapPolicy(QFormLayout::WrapLongRows);
     layout->addWidget(m_facts);
     m_histogram = new HistogramView;
     layout->addWidget(m_histogram);
@@ -187,6 +199,7 @@ void DataInspector::setFact(int line, const QString& name, const QString& text, 
     };
     label(QFormLayout::LabelRole)->setText(name);
     label(QFormLayout::FieldRole)->setText(text);
+    label(QFormLayout::FieldRole)->setMinimumWidth(widthOfWords(*label(QFormLayout::FieldRole)));
     label(QFormLayout::FieldRole)->setToolTip(tip);
     label(QFormLayout::FieldRole)->setAccessibleName(name);
 }

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QListWidget>
+#include <QPointer>
 #include <QTabBar>
 #include <QVariant>
 #include <QWidget>
@@ -174,8 +175,13 @@ void LiveTexts::replace() const
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget* window : windows) {
         replaceOn(*window);
-        const QList<QObject*> parts = window->findChildren<QObject*>();
-        for (QObject* part : parts)
-            replaceOn(*part);
+        // Widgets may do away with parts that they make anew for other words.
+        QList<QPointer<QObject>> parts;
+        for (QObject* part : window->findChildren<QObject*>())
+            parts.append(part);
+        for (const QPointer<QObject>& part : qAsConst(parts)) {
+            if (part)
+                replaceOn(*part);
+        }
     }
 }

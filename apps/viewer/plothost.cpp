@@ -1,10 +1,10 @@
 #include "plothost.h"
 
+#include "elidedlabel.h"
 #include "plotpage.h"
 #include "plots/baseplot.h"
 #include "view/plotstatusbar.h"
 
-#include <QLabel>
 #include <QMainWindow>
 #include <QMenu>
 #include <QToolBar>
@@ -12,6 +12,7 @@
 namespace {
 
 constexpr QSize barIcons(22, 22);
+constexpr QMargins descriptionMargins(4, 0, 10, 0);
 
 QIcon icon(const char* name)
 {
@@ -45,11 +46,10 @@ PlotHost::~PlotHost()
 void PlotHost::placeStatusBar(bool visible)
 {
     auto* bar = new Zel3D::PlotStatusBar(&m_page.plot(), &m_window);
-    auto* description = new QLabel(m_page.source().description());
+    auto* description = new ElidedLabel(m_page.source().description());
     description->setObjectName("description");
-    description->setToolTip(description->text());
-    // As long as it is, the text must not keep the window wide.
-    description->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    // In line with the messages, and apart from what stands right of it.
+    description->setContentsMargins(descriptionMargins);
     bar->addWidget(description, 1);
     m_window.setStatusBar(bar);
     bar->setVisible(visible);

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <numeric>
 
 namespace {
 
@@ -25,6 +26,18 @@ QSplitter* makeSplitter(Qt::Orientation orientation)
     auto* splitter = new QSplitter(orientation);
     splitter->setChildrenCollapsible(false);
     return splitter;
+}
+
+/// Sizes with one more after that at the index: all the same where they were, otherwise half of that one.
+QList<int> withRoomAfter(QList<int> sizes, int index)
+{
+    const auto [least, most] = std::minmax_element(sizes.begin(), sizes.end());
+    const bool same = *most - *least < sizes.size();
+    sizes[index] /= 2;
+    sizes.insert(index + 1, sizes[index]);
+    if (same)
+        std::fill(sizes.begin(), sizes.end(), std::accumulate(sizes.begin(), sizes.end(), 0) / sizes.size());
+    return sizes;
 }
 
 QSplitter& splitterOf(const PlotPane& pane)
@@ -283,12 +296,11 @@ void PlotTabs::insertBeside(PlotPane& anchor, PlotPane& pane, Qt::Orientation or
         splitter = inner;
         index = 0;
     }
-    const int room = orientation == Qt::Horizontal ? anchor.width() : anchor.height();
     sizes = splitter->sizes();
+    // A new splitter does not know it yet.
+    sizes[index] = orientation == Qt::Horizontal ? anchor.width() : anchor.height();
     splitter->insertWidget(index + 1, &pane);
-    sizes[index] = room / 2;
-    sizes.insert(index + 1, room / 2);
-    splitter->setSizes(sizes);
+    splitter->setSizes(withRoomAfter(sizes, index));
 }
 
 void PlotTabs::removeIfEmpty(PlotPane& pane)

@@ -9,7 +9,7 @@
 namespace {
 
 constexpr QSize usualSize(320, 150);
-constexpr QSize leastSize(110, 70);
+constexpr QSize leastSize(110, 80);
 constexpr int gap = 4;
 constexpr double margin = 0.06;
 constexpr double ringRadius = 4.0;

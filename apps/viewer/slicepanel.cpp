@@ -11,7 +11,6 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QSaveFile>
 #include <QSettings>
 #include <QStackedWidget>
@@ -23,7 +22,7 @@ namespace {
 constexpr char shownKey[] = "slice/shown";
 constexpr char folderKey[] = "slice/folder";
 constexpr QSize usualSize(640, 200);
-constexpr QSize leastSize(200, 110);
+constexpr QSize leastSize(200, 140);
 constexpr int narrowLetters = 70;
 
 const QColor rowColor(31, 119, 180);
@@ -101,12 +100,12 @@ QBoxLayout* SlicePanel::makeHead()
     head->addSpacing(6);
     head->addWidget(m_hold);
     head->addStretch(1);
-    m_copy = new QPushButton;
+    m_copy = new QToolButton;
     m_copy->setToolTip(tr("Copy the curves as CSV"));
-    connect(m_copy, &QPushButton::clicked, this, &SlicePanel::copy);
-    m_save = new QPushButton;
+    connect(m_copy, &QToolButton::clicked, this, &SlicePanel::copy);
+    m_save = new QToolButton;
     m_save->setToolTip(tr("Save the curves as a CSV file"));
-    connect(m_save, &QPushButton::clicked, this, &SlicePanel::chooseFile);
+    connect(m_save, &QToolButton::clicked, this, &SlicePanel::chooseFile);
     head->addWidget(m_copy);
     head->addWidget(m_save);
     return head;

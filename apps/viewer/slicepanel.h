@@ -7,7 +7,6 @@
 class QBoxLayout;
 class QButtonGroup;
 class QLabel;
-class QPushButton;
 class QStackedWidget;
 class QToolButton;
 class SliceCurve;
@@ -70,8 +69,8 @@ private:
     QLabel* m_where = nullptr;
     QButtonGroup* m_choices = nullptr;
     QToolButton* m_hold = nullptr;
-    QPushButton* m_copy = nullptr;
-    QPushButton* m_save = nullptr;
+    QToolButton* m_copy = nullptr;
+    QToolButton* m_save = nullptr;
     QBoxLayout* m_curves = nullptr;
     SliceCurve* m_row = nullptr;
     SliceCurve* m_column = nullptr;

@@ -4,6 +4,24 @@
 #include <cmath>
 #include <limits>
 
+namespace {
+
+/// So many steps more than wanted, and two numbers lie in every range.
+constexpr int surelyTwo = 4;
+
+/// The next wider one of the round widths.
+double roundWidth(double wanted)
+{
+    const double power = std::pow(10.0, std::floor(std::log10(wanted)));
+    for (const double factor : {1.0, 2.0, 2.5, 5.0}) {
+        if (factor * power >= wanted)
+            return factor * power;
+    }
+    return 10.0 * power;
+}
+
+} // namespace
+
 SliceRuler::SliceRuler(const std::vector<double>& numbers, bool logarithmic, double margin)
     : m_logarithmic(logarithmic),
       m_lower(std::numeric_limits<double>::infinity()),
@@ -41,13 +59,14 @@ double SliceRuler::part(double number) const
 
 double SliceRuler::step(int most) const
 {
-    const double wanted = (m_upper - m_lower) / std::max(most, 1);
-    const double power = std::pow(10.0, std::floor(std::log10(wanted)));
-    for (const double factor : {1.0, 2.0, 2.5, 5.0}) {
-        if (factor * power >= wanted)
-            return factor * power;
+    // One number alone does not tell the size of a step, so there are two at least.
+    const int least = std::max(most, 1);
+    for (int count = least; count < least + surelyTwo; ++count) {
+        const double width = roundWidth((m_upper - m_lower) / count);
+        if (std::floor(m_upper / width) > std::ceil(m_lower / width))
+            return width;
     }
-    return 10.0 * power;
+    return roundWidth((m_upper - m_lower) / (least + surelyTwo));
 }
 
 QVector<double> SliceRuler::ticks(int most) const

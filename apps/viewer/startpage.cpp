@@ -100,7 +100,7 @@ QWidget* StartPage::makeHead(QAction* openFile)
     auto* words = new QVBoxLayout;
     words->setSpacing(2);
     words->addWidget(heading(tr("voranview"), 1.8));
-    auto* hint = new QLabel(tr("Drop a grid, spectra or a mesh into this window."));
+    auto* hint = new QLabel(tr("Drop a grid, spectra or a mesh into this window, or paste a table."));
     hint->setWordWrap(true);
     words->addWidget(hint);
     layout->addLayout(words, 1);

@@ -130,6 +130,7 @@ void ViewerWindow::createTabs()
     m_tabActions = new TabActions(*m_tabs);
     m_fileMenu->addSeparator();
     m_tabActions->fillFileMenu(*m_fileMenu);
+    m_fileMenu->addSeparator();
     m_fileMenu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence(Qt::CTRL + Qt::Key_Q));
 }
 
@@ -222,11 +223,13 @@ void ViewerWindow::createViewMenu()
     connect(m_fullScreenAction, &QAction::triggered, this, &ViewerWindow::showFullScreen);
     m_viewMenu->addSeparator();
     m_linkAction = addSwitch(tr("L&ink views"), Qt::CTRL + Qt::SHIFT + Qt::Key_L);
+    m_linkAction->setIcon(icon("linkviews"));
     m_linkAction->setStatusTip(tr("Turn, zoom and shift all plots together"));
     connect(m_linkAction, &QAction::triggered, this, &ViewerWindow::linkViews);
     // Where it is seen, too, that plots are linked.
     auto* link = new QToolButton;
     link->setAutoRaise(true);
+    link->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     link->setFocusPolicy(Qt::NoFocus);
     link->setDefaultAction(m_linkAction);
     link->setVisible(false);

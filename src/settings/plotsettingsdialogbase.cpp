@@ -3,6 +3,7 @@
 #include "plots/baseplot.h"
 #include "settings/abstractsettingspage.h"
 #include "settings/fieldeditor.h"
+#include "settings/pagelist.h"
 #include "settings/templateactions.h"
 #include "settings/untouchedplot.h"
 #include "settings/valueeditor.h"
@@ -41,6 +42,10 @@ constexpr int mostResults = 12;
 // Heights of the dialog, in lines of text.
 constexpr int leastLines = 12;
 constexpr int usualLines = 40;
+/// Width that is left to the pages at least.
+constexpr int leastLetters = 40;
+/// Width of the search beside the title of a page.
+constexpr int searchLetters = 24;
 
 /// An icon that the colour of a selection does not swallow: there it has the colour of the text.
 QIcon pageIcon(const QString& path, const QSize& size, const QPalette& colors)
@@ -71,7 +76,7 @@ PlotSettingsDialogBase::PlotSettingsDialogBase(const QVector<SettingsPageEntry>&
       binder(editedPlot),
       searchLine(new QLineEdit(this)),
       results(new QCompleter(this)),
-      list(new QListWidget(this)),
+      list(new PageList(this)),
       title(new QLabel(this)),
       stack(new QStackedWidget(this))
 {
@@ -90,6 +95,8 @@ PlotSettingsDialogBase::PlotSettingsDialogBase(const QVector<SettingsPageEntry>&
         stack->setCurrentIndex(row);
         title->setText(row >= 0 ? list->item(row)->text() : QString());
     });
+    // The titles are longer in another language.
+    connect(list, &QListWidget::itemChanged, this, &PlotSettingsDialogBase::narrow);
     connect(&binder, &FieldBinder::changed, this, &PlotSettingsDialogBase::updateButtons);
     auto* clock = new QTimer(this);
     clock->setObjectName("refresh");
@@ -148,6 +155,7 @@ QWidget* PlotSettingsDialogBase::makeSide()
     addAction(find);
     layout->addWidget(searchLine);
     layout->addWidget(list, 1);
+    sideColumn = layout;
     side->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Expanding);
     return side;
 }
@@ -156,6 +164,7 @@ QWidget* PlotSettingsDialogBase::makeHead()
 {
     auto* head = new QWidget(this);
     auto* layout = new QHBoxLayout(head);
+    headLine = layout;
     // In line with the boxes of the pages.
     layout->setContentsMargins(style()->pixelMetric(QStyle::PM_LayoutLeftMargin), 0, 0, 0);
     QFont font = title->font();
@@ -241,25 +250,51 @@ void PlotSettingsDialogBase::fitSide()
     const int line = list->fontMetrics().height();
     list->setIconSize({line * 3 / 2, line * 3 / 2});
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    int titles = 0;
     for (int i = 0; i < list->count(); ++i) {
         list->item(i)->setSizeHint({0, line * 2});
         list->item(i)->setIcon(
             pageIcon(list->item(i)->data(Qt::UserRole).toString(), list->iconSize(), palette()));
-        titles = std::max(titles, list->fontMetrics().horizontalAdvance(list->item(i)->text()));
     }
-    list->parentWidget()->setFixedWidth(titles + 3 * line + list->verticalScrollBar()->sizeHint().width());
-    stack->setMinimumHeight(line * leastLines);
+    stack->setMinimumSize(stack->fontMetrics().averageCharWidth() * leastLetters, line * leastLines);
+    narrow();
+}
+
+int PlotSettingsDialogBase::getFullWidth() const
+{
     int width = 0;
-    for (const AbstractSettingsPage* page : qAsConst(pages))
-        width = std::max(width, page->minimumSizeHint().width());
-    stack->setMinimumWidth(width + style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this));
+    for (const AbstractSettingsPage* page : pages)
+        width = std::max(width, page->sizeHint().width());
+    const auto* grid = static_cast<const QGridLayout*>(layout());
+    const QMargins margins = grid->contentsMargins();
+    return margins.left() + list->getFullWidth() + grid->horizontalSpacing() + width +
+           style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this) + margins.right();
+}
+
+void PlotSettingsDialogBase::narrow()
+{
+    const bool bare = width() < getFullWidth();
+    list->setBare(bare);
+    list->parentWidget()->setFixedWidth(list->getWidth());
+    searchLine->setMaximumWidth(bare ? searchLine->fontMetrics().averageCharWidth() * searchLetters
+                                     : QWIDGETSIZE_MAX);
+    if (bare == (headLine->indexOf(searchLine) >= 0))
+        return;
+    const bool focused = focusWidget() == searchLine;
+    if (bare)
+        headLine->insertWidget(headLine->indexOf(title) + 1, searchLine);
+    else
+        sideColumn->insertWidget(0, searchLine);
+    // It was hidden on its way.
+    searchLine->show();
+    if (focused)
+        searchLine->setFocus();
 }
 
 QSize PlotSettingsDialogBase::sizeHint() const
 {
     const QSize hint = PlotBaseDialog::sizeHint();
-    return {hint.width(), std::max(hint.height(), fontMetrics().height() * usualLines)};
+    return {std::max(hint.width(), getFullWidth()),
+            std::max(hint.height(), fontMetrics().height() * usualLines)};
 }
 
 int PlotSettingsDialogBase::getCurrentRow() const
@@ -376,6 +411,12 @@ void PlotSettingsDialogBase::changeEvent(QEvent* event)
     PlotBaseDialog::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
         fitSide();
+}
+
+void PlotSettingsDialogBase::resizeEvent(QResizeEvent* event)
+{
+    PlotBaseDialog::resizeEvent(event);
+    narrow();
 }
 
 void PlotSettingsDialogBase::showEvent(QShowEvent* event)

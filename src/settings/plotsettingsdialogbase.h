@@ -5,10 +5,10 @@
 #include "settings/plotbasedialog.h"
 #include "settings/settingssearch.h"
 
+class QBoxLayout;
 class QCompleter;
 class QLabel;
 class QLineEdit;
-class QListWidget;
 class QPushButton;
 class QScrollArea;
 class QStackedWidget;
@@ -16,6 +16,7 @@ class QStackedWidget;
 namespace Zel3D {
 
 class AbstractSettingsPage;
+class PageList;
 
 /// A dialog that edits a plot on pages: a list of the pages, a search for single settings, undo, and buttons
 /// to keep, drop or reset what was edited. Edits show in the plot at once. OK and Apply save the plot's
@@ -52,6 +53,7 @@ protected:
     void plotDeleted() override;
     void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
@@ -61,6 +63,10 @@ private:
     QWidget* makeHead();
     QWidget* makeButtons();
     void fitSide();
+    /// Of the dialog: what all pages want beside the list with its titles.
+    int getFullWidth() const;
+    /// Where there is less width, the list keeps to its icons and the search moves beside the title.
+    void narrow();
     void search(const QString& typed);
     void goToResult(const QString& path);
     void completeTyping();
@@ -72,9 +78,11 @@ private:
     QVector<SearchEntry> searchEntries;
     QLineEdit* searchLine;
     QCompleter* results;
-    QListWidget* list;
+    PageList* list;
     QLabel* title;
     QStackedWidget* stack;
+    QBoxLayout* sideColumn = nullptr;
+    QBoxLayout* headLine = nullptr;
     QPushButton* applyButton = nullptr;
     QPushButton* restoreButton = nullptr;
 };

@@ -19,6 +19,7 @@
 #include <QSettings>
 #include <QSlider>
 #include <QTimer>
+#include <QToolTip>
 
 #include <memory>
 
@@ -87,6 +88,7 @@ private slots:
     void enterDoesNotClose();
     void pagesOfTheOptions();
     void pageAndPlaceComeBack();
+    void narrowDialogKeepsItsPages();
     void opensOnTheScreen_data();
     void opensOnTheScreen();
     void plotStaysUsable();
@@ -249,6 +251,40 @@ void TestSettingsDialog::pageAndPlaceComeBack()
     const auto dialog = openDialog(plot);
     QCOMPARE(dialog->getCurrentRow(), 2);
     QCOMPARE(QRect(dialog->pos(), dialog->size()), place);
+}
+
+void TestSettingsDialog::narrowDialogKeepsItsPages()
+{
+    LongTexts translator;
+    QApplication::installTranslator(&translator);
+    {
+        StyledPlot plot;
+        const auto dialog = openDialog(plot);
+        auto* list = dialog->findChild<QListWidget*>("pages");
+        auto* search = dialog->findChild<QLineEdit*>("search");
+        const int usual = dialog->width();
+        const int usualList = list->width();
+        dialog->resize(700, 500);
+        QTest::qWait(20);
+        QCOMPARE(dialog->size(), QSize(700, 500));
+        QVERIFY(list->width() < usualList / 2);
+        // The titles are told in tool tips, and the search is still there.
+        QHelpEvent help(QEvent::ToolTip, QPoint(10, 10), list->viewport()->mapToGlobal(QPoint(10, 10)));
+        QApplication::sendEvent(list->viewport(), &help);
+        QCOMPARE(QToolTip::text(), list->item(0)->text());
+        search->setFocus();
+        QVERIFY(search->isVisible() && search->width() > usualList / 2);
+        dialog->resize(usual, 500);
+        QTest::qWait(20);
+        QCOMPARE(list->width(), usualList);
+        QVERIFY(search->isVisible() && dialog->focusWidget() == search);
+        // A longer title, as in another language, has the room that it needs.
+        list->item(0)->setText(list->item(0)->text().repeated(2));
+        dialog->resize(2 * usual, 500);
+        QTest::qWait(20);
+        QVERIFY(list->width() > usualList);
+    }
+    QApplication::removeTranslator(&translator);
 }
 
 void TestSettingsDialog::opensOnTheScreen_data()

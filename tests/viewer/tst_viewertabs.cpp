@@ -20,6 +20,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QSplitter>
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTimer>
@@ -58,6 +59,7 @@ private slots:
     void plotsCloseInAnyOrder();
     void settingsOfSeveralPlotsAtOnce();
     void panesKeepThePlots();
+    void panesShareTheRoom();
     void panesGoWithTheirLastPlot();
     void menusBelongToTheActivePlot();
     void hiddenPlotsRest();
@@ -288,6 +290,31 @@ void TestViewerTabs::panesKeepThePlots()
     QVERIFY(m_window->page() == &page(2) && !page(1).plot().isVisible());
     QCOMPARE(plot.size(), size);
     QCOMPARE(harness::grab(plot), before);
+}
+
+void TestViewerTabs::panesShareTheRoom()
+{
+    openThree();
+    QString error;
+    QVERIFY(m_window->present(std::make_unique<ToroidSource>(), error));
+    const auto splitOff = [this](int number) {
+        m_window->tabs().activate(page(number));
+        action("Show beside").trigger();
+        QCoreApplication::processEvents();
+    };
+    splitOff(3);
+    splitOff(0);
+    // As wide as each other, but for what the window's width leaves over.
+    for (int i = 0; i < 2; ++i)
+        QVERIFY(std::abs(page(i).width() - page(3).width()) <= 4);
+    // Where the person has chosen the widths, only the shared place is divided.
+    auto* splitter = m_window->findChild<QSplitter*>();
+    splitter->setSizes({400, 150, 150});
+    QCoreApplication::processEvents();
+    const int kept = page(3).width();
+    splitOff(1);
+    QCOMPARE(m_window->tabs().paneCount(), 4);
+    QVERIFY(std::abs(page(3).width() - kept) <= 10);
 }
 
 void TestViewerTabs::panesGoWithTheirLastPlot()

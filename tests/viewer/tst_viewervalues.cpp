@@ -65,6 +65,7 @@ private slots:
     void slicesAreSavedWhole();
     void rulerHasRoundNumbers_data();
     void rulerHasRoundNumbers();
+    void lowRulerHasTwoNumbers();
     void spectrumIsSliced();
     void logarithmicValuesArePlain();
     void largeTableIsCheap();
@@ -76,6 +77,7 @@ private slots:
     void pastedOrDroppedPathOpens();
     void uselessClipboardSaysSo();
     void plotClosesUnderTheDocks();
+    void docksLeaveRoomToThePlot();
     void movingDataAreFollowed();
     void pictureIsDraggedFromItsHandle();
 
@@ -277,6 +279,16 @@ void TestViewerValues::rulerHasRoundNumbers()
     for (int i = 0; i < ticks.size(); ++i) {
         QVERIFY2(std::abs(found[i] - ticks[i]) <= 1e-9 * std::abs(ticks[i]), qPrintable(texts.join(' ')));
         QVERIFY(ruler.part(found[i]) >= -1e-9 && ruler.part(found[i]) <= 1.0 + 1e-9);
+    }
+}
+
+void TestViewerValues::lowRulerHasTwoNumbers()
+{
+    for (const int most : {1, 2}) {
+        const QVector<double> found = SliceRuler({0.02, 0.14}, false, 0.0).ticks(most);
+        QCOMPARE(found.size(), 2);
+        QCOMPARE(found[0], 0.05);
+        QCOMPARE(found[1], 0.1);
     }
 }
 
@@ -523,6 +535,30 @@ void TestViewerValues::plotClosesUnderTheDocks()
     again.show();
     again.openFile(examples + "bunny.off");
     QVERIFY(again.findChild<QDockWidget*>("dataDock")->isVisible());
+}
+
+void TestViewerValues::docksLeaveRoomToThePlot()
+{
+    m_window->resize(1000, 800);
+    m_window->openFile(examples + "jacksboro_dem.asc");
+    action("Data")->trigger();
+    action("Slice")->trigger();
+    QTest::qWait(50);
+    auto* dock = child<QDockWidget>("dataDock");
+    const int usual = dock->width();
+    for (const QSize& size : {QSize(1000, 800), QSize(700, 500)}) {
+        m_window->resize(size);
+        QTest::qWait(50);
+        const QSize plot = m_window->page()->plot().size();
+        QVERIFY2(plot.width() >= 452 && plot.height() >= 200, qPrintable(QString::number(plot.width())));
+    }
+    QVERIFY(dock->width() < usual);
+    // In the narrow dock no value is cut off.
+    const QList<QLabel*> labels = dock->findChildren<QLabel*>();
+    for (const QLabel* label : labels) {
+        const int right = label->mapTo(dock, QPoint(label->minimumSizeHint().width(), 0)).x();
+        QVERIFY2(!label->isVisible() || right <= dock->width(), qPrintable(label->text()));
+    }
 }
 
 void TestViewerValues::movingDataAreFollowed()
