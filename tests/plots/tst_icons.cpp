@@ -28,7 +28,7 @@ const QStringList names = {
     // gradient editor
     "gradientreverse", "gradientdistribute", "stopadd", "stopremove",
     // viewer
-    "open", "savepicture", "dragpicture", "fullscreen", "select", "resetview", "voranview"};
+    "open", "savepicture", "dragpicture", "fullscreen", "linkviews", "select", "resetview", "voranview"};
 
 /// Null where the file or the plugin that draws it is missing.
 QImage picture(const QString& name, int size)
