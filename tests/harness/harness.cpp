@@ -25,9 +25,8 @@ extern "C" int dlclose(void*)
 extern "C" const char* __lsan_default_suppressions();
 extern "C" const char* __lsan_default_suppressions()
 {
-    return "leak:swrast_dri\nleak:libdbus-1\nleak:QPropertyAnimation\nleak:libQt5Widgets\nleak:"
-           "QOpenGLContext\n"
-           "leak:QGLContext::chooseContext\n";
+    return "leak:swrast_dri\nleak:libdbus-1\nleak:QPropertyAnimation\nleak:QGLContext::chooseContext\n"
+           "leak:QOpenGLContext::QOpenGLContext\n";
 }
 
 // Asking for more memory than there is fails, as without sanitizers.
