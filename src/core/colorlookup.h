@@ -3,6 +3,8 @@
 #include "core/colortable.h"
 #include "core/types.h"
 
+#include <vector>
+
 namespace Zel3D {
 
 class DataColor;
@@ -19,6 +21,11 @@ public:
     ColorChannels operator()(const QVector3D& p) const
     {
         return table ? table->channelsAt(double(p.z()), range.first, range.second) : ask(p);
+    }
+    /// The colours of many heights in a row, where isByHeight().
+    void ofHeights(const std::vector<double>& heights, ColorChannels* colors) const
+    {
+        table->channelsAt(heights.data(), heights.size(), range.first, range.second, colors);
     }
     /// Whether all points of one height have one colour.
     bool isByHeight() const { return table != nullptr; }

@@ -8,7 +8,7 @@ namespace Zel3D {
 
 namespace {
 
-std::array<double, 4> channels(const QColor& color)
+std::array<double, 4> wholeChannels(const QColor& color)
 {
     return {double(color.red()), double(color.green()), double(color.blue()), double(color.alpha())};
 }
@@ -41,7 +41,8 @@ ColorTable::ColorTable(const QGradientStops& stops) : count(stops.size())
         const double end = stops.at(i).first;
         if (!(std::abs(end - begin) > DBL_MIN))
             continue;
-        Segment segment{begin, end - begin, channels(stops.at(i - 1).second), channels(stops.at(i).second)};
+        Segment segment{begin, end - begin, wholeChannels(stops.at(i - 1).second),
+                        wholeChannels(stops.at(i).second)};
         for (std::size_t k = 0; k < segment.change.size(); ++k)
             segment.change[k] -= segment.from[k];
         segments.push_back(segment);
@@ -51,7 +52,7 @@ ColorTable::ColorTable(const QGradientStops& stops) : count(stops.size())
 
 // The index of the first segment that ends at or behind the position, else the number of segments. The steps
 // depend on the number of segments alone, so that scattered values cost no mispredicted branches.
-std::size_t ColorTable::segmentAt(double position) const
+inline std::size_t ColorTable::segmentAt(double position) const
 {
     constexpr std::size_t countedSegments = 8;
     const double* start = ends.data();
@@ -70,8 +71,8 @@ std::size_t ColorTable::segmentAt(double position) const
     return index;
 }
 
-ColorTable::Found ColorTable::find(double value, double minimum, double maximum,
-                                   std::array<int, 4>& color) const
+inline ColorTable::Found ColorTable::find(double value, double minimum, double maximum,
+                                          std::array<int, 4>& color) const
 {
     if (count == 1)
         return Found::First;
@@ -115,7 +116,7 @@ QColor ColorTable::colorAt(double value, double minimum, double maximum) const
     return QColor();
 }
 
-ColorChannels ColorTable::channelsAt(double value, double minimum, double maximum) const
+inline ColorChannels ColorTable::channels(double value, double minimum, double maximum) const
 {
     std::array<int, 4> color;
     switch (find(value, minimum, maximum, color)) {
@@ -130,6 +131,52 @@ ColorChannels ColorTable::channelsAt(double value, double minimum, double maximu
         break;
     }
     return {0.0, 0.0, 0.0, 1.0};
+}
+
+ColorChannels ColorTable::channelsAt(double value, double minimum, double maximum) const
+{
+    return channels(value, minimum, maximum);
+}
+
+// As channels() does it, but step by step for a block of values, so that no division waits for another. What
+// does not lie between two stops is left to channels().
+void ColorTable::channelsAt(const double* values, std::size_t size, double minimum, double maximum,
+                            ColorChannels* colors) const
+{
+    constexpr std::size_t blockSize = 64;
+    std::array<double, blockSize> positions;
+    std::array<double, blockSize> parts;
+    std::array<const Segment*, blockSize> met;
+    const double span = maximum - minimum;
+    const bool hasSegments = count > 1 && span > DBL_MIN && !segments.empty();
+    const std::size_t highest = segments.size() - 1;
+    for (std::size_t i = 0; !hasSegments && i < size; ++i)
+        colors[i] = channels(values[i], minimum, maximum);
+    for (std::size_t start = 0; hasSegments && start < size; start += blockSize) {
+        const std::size_t length = std::min(blockSize, size - start);
+        const double* value = values + start;
+        for (std::size_t i = 0; i < length; ++i)
+            positions[i] = (value[i] - minimum) / span;
+        for (std::size_t i = 0; i < length; ++i) {
+            met[i] = &segments[std::min(segmentAt(positions[i]), highest)];
+            parts[i] = (positions[i] - met[i]->begin) / met[i]->width;
+        }
+        for (std::size_t i = 0; i < length; ++i) {
+            // Without branches: "and" is not "and then" here.
+            int isBetween =
+                int(minimum < value[i]) & int(value[i] < maximum) & int(positions[i] <= ends[highest]);
+            std::array<int, 4> color;
+            for (std::size_t k = 0; k < color.size(); ++k) {
+                const double channel = met[i]->change[k] * parts[i] + met[i]->from[k];
+                isBetween &= int(channel > -1.0) & int(channel < 256.0);
+                color[k] = int(isBetween ? channel : 0.0);
+            }
+            for (std::size_t k = 0; k < color.size(); ++k)
+                colors[start + i][k] = fractions[std::size_t(color[k])];
+            if (!isBetween)
+                colors[start + i] = channels(value[i], minimum, maximum);
+        }
+    }
 }
 
 } // namespace Zel3D

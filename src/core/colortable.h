@@ -47,6 +47,9 @@ public:
     /// The same colour as red, green, blue and alpha from 0 to 1, as QColor gives them; opaque black for an
     /// invalid one.
     ColorChannels channelsAt(double value, double minimum, double maximum) const;
+    /// The same for values in a row: \a colors takes \a size of them.
+    void channelsAt(const double* values, std::size_t size, double minimum, double maximum,
+                    ColorChannels* colors) const;
 
 private:
     // Two neighbouring stops at different positions.
@@ -60,6 +63,7 @@ private:
     /// What a value meets: an end, or whole numbers between stops, or neither.
     enum class Found { First, Last, Between, None };
     Found find(double value, double minimum, double maximum, std::array<int, 4>& color) const;
+    ColorChannels channels(double value, double minimum, double maximum) const;
     std::size_t segmentAt(double position) const;
 
     std::vector<Segment> segments;

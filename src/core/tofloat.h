@@ -4,16 +4,13 @@
 
 namespace Zel3D {
 
-/// A double as a float; what a float cannot hold becomes an infinity of the same sign.
+/// A double as a float; what is beyond the range of a float becomes an infinity of the same sign.
 ///
-/// The language leaves a plain conversion of such a value undefined.
+/// That is what IEC 60559 says of the conversion; the language alone would leave it undefined.
 inline float toFloat(double value)
 {
-    using Float = std::numeric_limits<float>;
-    constexpr double most = double(Float::max());
-    const double clamped = value > most ? most : (value < -most ? -most : value);
-    const float converted = float(clamped);
-    return value > most ? Float::infinity() : (value < -most ? -Float::infinity() : converted);
+    static_assert(std::numeric_limits<float>::is_iec559 && std::numeric_limits<double>::is_iec559);
+    return float(value);
 }
 
 } // namespace Zel3D

@@ -2,6 +2,7 @@
 
 #include "core/colorlookup.h"
 #include "core/griddata.h"
+#include "core/tofloat.h"
 
 #include <array>
 #include <vector>
@@ -42,12 +43,22 @@ private:
         std::vector<ColorChannels> colors;
     };
 
-    void lookUp(Column& entry, int index) const
+    void lookUp(Column& entry, int index)
     {
         entry.index = index;
         const auto rows = int(data.rows());
         entry.colors.resize(std::size_t(rows));
         // In single precision, as the box is: the highest node takes the last colour.
+        if (step == 1 && color.isByHeight()) {
+            heights.resize(std::size_t(rows));
+            const double* value = data.valueVectorAt(unsigned(index), 0) + 2;
+            for (double& height : heights) {
+                height = double(toFloat(*value));
+                value += 3;
+            }
+            color.ofHeights(heights, entry.colors.data());
+            return;
+        }
         for (int row = 0; row < rows; row += step)
             entry.colors[std::size_t(row)] = color(data.valueAt(unsigned(index), unsigned(row)));
     }
@@ -56,6 +67,7 @@ private:
     const ColorLookup color;
     int step;
     std::array<Column, 2> columns;
+    std::vector<double> heights; // of the column that is looked up
     std::size_t newest = 0;
 };
 

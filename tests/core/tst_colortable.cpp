@@ -84,6 +84,14 @@ void TestColorTable::lookup()
     QTEST(table.colorAt(value, minimum, maximum), "color");
     QFETCH(QColor, color);
     QCOMPARE(table.channelsAt(value, minimum, maximum), channelsOf(color));
+    // In a row, between others, at the end of a block and behind it.
+    const double middle = minimum + 0.3 * (maximum - minimum);
+    std::vector<double> row(65, middle);
+    row[1] = row[63] = row[64] = value;
+    std::vector<ColorChannels> colors(row.size());
+    table.channelsAt(row.data(), row.size(), minimum, maximum, colors.data());
+    for (std::size_t i = 0; i < row.size(); ++i)
+        QCOMPARE(colors[i], table.channelsAt(row[i], minimum, maximum));
     QCOMPARE(table.isEmpty(), stops.isEmpty());
     QCOMPARE(table.getStopCount(), stops.size());
 }
