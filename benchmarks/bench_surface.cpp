@@ -21,13 +21,14 @@ struct Effort
 {
     int rounds;  ///< each with new windows, so each with one load
     int repeats; ///< of a frame and a reload in each round
+    int loads;   ///< rounds in all; those beyond the first ones only load
 };
 
 Effort effort(int nodes)
 {
     if (nodes <= 256)
-        return {12, 10};
-    return nodes <= 1024 ? Effort{8, 6} : Effort{6, 4};
+        return {12, 10, 24};
+    return nodes <= 1024 ? Effort{8, 6, 20} : Effort{5, 4, 8};
 }
 
 bool measure(int nodes, bool multisampling)
@@ -39,8 +40,8 @@ bool measure(int nodes, bool multisampling)
     Comparison changing("reload, changing data", size);
     bench::Heights first(nodes);
     bench::Heights second(nodes, 1.0);
-    const auto [rounds, repeats] = effort(nodes);
-    for (int round = 0; round < rounds; ++round) {
+    const auto [rounds, repeats, loads] = effort(nodes);
+    for (int round = 0; round < loads; ++round) {
         const auto floor = bench::makeFloor(multisampling);
         const auto library = bench::makeLibrary(multisampling);
         if (!bench::show(*floor) || !bench::show(*library))
@@ -59,6 +60,8 @@ bool measure(int nodes, bool multisampling)
         };
         floor->prepare(first);
         load.run([&] { loadAndFrame(*floor, first); }, [&] { loadAndFrame(*library, first); });
+        if (round >= rounds)
+            continue;
         reloads(reload);
         bench::compareExtents(floor->widget(), library->widget());
         for (int i = 0; i < repeats; ++i) {
