@@ -33,7 +33,7 @@ SpectrumData::SpectrumData() : Data(2) {}
 void SpectrumData::setData(const Map& data)
 {
     if (&data != &spectrum)
-        spectrum = data;
+        spectrum = copyInOrder(data);
     computeBox();
 }
 
@@ -43,37 +43,64 @@ void SpectrumData::setData(Map&& data)
     computeBox();
 }
 
+SpectrumData::Map SpectrumData::copyInOrder(const Map& data)
+{
+    Map copy;
+    for (const auto& [position, values] : data) {
+        auto& points = copy.emplace_hint(copy.end(), position, Map::mapped_type())->second;
+        for (const auto& value : values)
+            points.insert(points.end(), value);
+    }
+    return copy;
+}
+
 bool SpectrumData::setHeights(const Map& data)
 {
     if (data.size() != spectrum.size())
         return false;
-    // Collected first, and in one walk through both: a map of many points is far from any cache.
-    std::vector<double> heights;
-    auto held = spectrum.cbegin();
+    std::size_t points = 0;
+    auto curve = spectrum.cbegin();
     for (const auto& [position, values] : data) {
-        if (position != held->first || values.size() != held->second.size())
+        if (position != curve->first || values.size() != curve->second.size())
             return false;
-        auto point = held->second.cbegin();
-        for (const auto& [key, value] : values) {
-            if (key != point->first)
-                return false;
-            heights.push_back(value);
-            ++point;
-        }
-        ++held;
+        points += values.size();
+        ++curve;
     }
+    // In one walk through both: a map of many points is far from any cache. The heights of before are kept
+    // until the last position has been seen to be the same.
+    std::vector<double> before;
+    before.reserve(points);
     Range range;
-    auto height = heights.cbegin();
-    for (auto& values : spectrum) {
-        for (auto& value : values.second) {
-            value.second = *height++;
-            range.widen(value.second);
+    auto held = spectrum.begin();
+    for (auto given = data.begin(); given != data.end(); ++given, ++held) {
+        auto point = held->second.begin();
+        for (const auto& [key, value] : given->second) {
+            if (key != point->first) {
+                restoreHeights(before);
+                return false;
+            }
+            before.push_back(point->second);
+            point->second = value;
+            range.widen(value);
+            ++point;
         }
     }
     // The positions, and with them x and y of the box, are those of before.
     minimum.setZ(toFloat(range.lower));
     maximum.setZ(toFloat(range.upper));
     return true;
+}
+
+void SpectrumData::restoreHeights(const std::vector<double>& heights)
+{
+    auto height = heights.begin();
+    for (auto& values : spectrum) {
+        for (auto& value : values.second) {
+            if (height == heights.end())
+                return;
+            value.second = *height++;
+        }
+    }
 }
 
 void SpectrumData::computeBox()

@@ -4,6 +4,7 @@
 #include "core/types.h"
 
 #include <map>
+#include <vector>
 
 namespace Zel3D {
 
@@ -35,6 +36,9 @@ public:
     /// std::bad_alloc before anything is changed.
     bool setHeights(const Map& data);
     const Map& getSpectrum() const { return spectrum; }
+    /// A copy whose points take their memory in the order in which they are walked. After a plain copy a walk
+    /// takes ten times as long.
+    static Map copyInOrder(const Map& data);
 
     void clear() override;
     bool isEmpty() const override;
@@ -46,6 +50,8 @@ public:
 
 private:
     void computeBox();
+    /// Puts the heights of the first points back.
+    void restoreHeights(const std::vector<double>& heights);
 
     BaseAxisType axis = XAxis;
     Map spectrum;

@@ -90,7 +90,7 @@ SpectrumData::Map Spectrum::toExponents(const SpectrumData::Map& spectra, BaseAx
     const bool inner = directions[std::size_t(axis == XAxis ? YAxis : XAxis)];
     const bool height = directions[ZAxis];
     if (!outer && !inner && !height)
-        return spectra;
+        return SpectrumData::copyInOrder(spectra);
     SpectrumData::Map converted;
     for (const auto& [position, values] : spectra) {
         const double place = outer ? exponentOf(position) : position;
