@@ -47,6 +47,15 @@ bool loadCells(Plot& plot)
     return plot.loadFromData({{0, 0, 0}, {1, 0, 1}, {1, 1, 2}, {0, 1, 1}}, {{0, 1, 2}, {0, 2, 3}}, 1.0, 1.0);
 }
 
+int listsAlive(Plot& plot)
+{
+    plot.makeCurrent();
+    int count = 0;
+    for (unsigned int id = 1; id < 1000; ++id)
+        count += glIsList(id) == GL_TRUE ? 1 : 0;
+    return count;
+}
+
 /// A normal of the grid; writing to it tells whether it is computed again.
 double& normal(Plot& plot)
 {
@@ -66,6 +75,7 @@ private slots:
     void theMeshIsDrawnWhereItWas();
     void markersMayUseTheMesh();
     void spectraKeepTheirSheets();
+    void nothingIsLeftOfClearedData();
 };
 
 void TestRebuilding::aChangeRebuildsWhatItMust_data()
@@ -217,6 +227,26 @@ void TestRebuilding::spectraKeepTheirSheets()
     plot.setMeshLineWidth(3.0); // of the frame, and of areas without height
     plot.updateGL();
     QCOMPARE(recorder.count("glNewList"), 1);
+}
+
+void TestRebuilding::nothingIsLeftOfClearedData()
+{
+    // Of lists of data, mesh and normals; what is left is the plot's own.
+    const auto leftOf = [](int style) {
+        Plot plot;
+        plot.setPlotStyle(style);
+        plot.setNormalsVisible(style != 0);
+        harness::show(plot, 80, 80);
+        loadHill(plot);
+        plot.updateGL();
+        const int shown = listsAlive(plot);
+        plot.clearData();
+        const int left = listsAlive(plot);
+        return left < shown ? left : -1;
+    };
+    const int left = leftOf(4);
+    QVERIFY(left >= 0);
+    QCOMPARE(leftOf(5), left);
 }
 
 int main(int argc, char* argv[])
