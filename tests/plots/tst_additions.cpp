@@ -3,6 +3,7 @@
 #include "plotfixture.h"
 #include "plots/arrowaddition.h"
 #include "plots/dotaddition.h"
+#include "plots/markers.h"
 #include "plots/sphereaddition.h"
 #include "scene/basedraw.h"
 
@@ -104,6 +105,7 @@ private slots:
     void cylinderFrameAndOpacity();
     void onlyChangedValuesAreWritten();
     void clonesAreIndependent();
+    void markersComeBackFromTheirValues();
 
 private:
     std::unique_ptr<Plot> plot;
@@ -425,6 +427,36 @@ void TestAdditions::clonesAreIndependent()
     dot.setSize(9.0);
     QCOMPARE(dynamic_cast<DotAddition&>(*same).getSize(), 3.0);
     QCOMPARE(dynamic_cast<DotAddition&>(*same).getColor(), QColor(Qt::blue));
+}
+
+void TestAdditions::markersComeBackFromTheirValues()
+{
+    const QMap<QString, QVariantMap> given{
+        {"dot", {{"size", 7.5}, {"smooth", false}}},
+        {"coloredDot", {{"size", 8.5}, {"smooth", false}, {"color", QColor(1, 2, 3, 4)}}},
+        {"sphere", {{"radius", 0.75}, {"color", QColor(5, 6, 7, 8)}}},
+        {"cylinder",
+         {{"ribNumber", 7}, {"radius", 0.25}, {"frameVisible", true}, {"angleZ", 12.5}, {"opacity", 40}}},
+        {"arrow",
+         {{"endX", 1.5}, {"endY", 2.5}, {"endZ", 3.5}, {"color", QColor(9, 10, 11, 12)}, {"quality", 5}}}};
+    QCOMPARE(given.keys().toSet(), markerKinds().toSet());
+    for (const QString& kind : markerKinds()) {
+        QVariantMap values = given.value(kind);
+        values.insert("kind", kind);
+        const std::unique_ptr<Addition> marker(makeMarker(values));
+        QVERIFY2(marker, qPrintable(kind));
+        QCOMPARE(describeMarker(*marker), values);
+        // What is not named stays.
+        const QString first = given.value(kind).firstKey();
+        const std::unique_ptr<Addition> usual(makeMarker({{"kind", kind}}));
+        QVariantMap expected = describeMarker(*usual);
+        QVERIFY(expected.value(first) != values.value(first));
+        changeMarker(*usual, {{first, values.value(first)}});
+        expected.insert(first, values.value(first));
+        QCOMPARE(describeMarker(*usual), expected);
+    }
+    QVERIFY(!makeMarker({{"kind", ownMarkerKind()}}));
+    QVERIFY(!makeMarker({}));
 }
 
 int main(int argc, char* argv[])
