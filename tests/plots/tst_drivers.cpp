@@ -120,6 +120,7 @@ private slots:
     void anyNumberOfSamples();
     void coreProfileIsToldAndSurvived();
     void aLostContextIsReplaced();
+    void listsOfANewContextAreNotTheOldOnes();
 };
 
 void TestDrivers::sentences_data()
@@ -253,6 +254,32 @@ void TestDrivers::aLostContextIsReplaced()
     QCOMPARE(harness::grab(plot), before);
     QVERIFY(shownNote(plot).isEmpty());
     QCOMPARE(onScreen(plot), window);
+}
+
+void TestDrivers::listsOfANewContextAreNotTheOldOnes()
+{
+    Plot plot;
+    QVERIFY(prepare(plot));
+    QVERIFY(harness::show(plot, 120, 120));
+    const QImage before = harness::grab(plot);
+    // Lists of somebody else that have the numbers that the plot's had.
+    auto* context = new QGLContext(plot.format(), &plot);
+    plot.setContext(context);
+    context->makeCurrent();
+    constexpr unsigned int count = 50;
+    for (unsigned int id = 1; id <= count; ++id) {
+        glNewList(id, GL_COMPILE);
+        glEndList();
+    }
+    // Another context hides the widget.
+    QVERIFY(harness::show(plot, 120, 120));
+    QCOMPARE(harness::grab(plot), before);
+    plot.setMeshColor(Qt::red);
+    plot.setNormalsVisible(false);
+    plot.updateGL();
+    plot.makeCurrent();
+    for (unsigned int id = 1; id <= count; ++id)
+        QVERIFY2(glIsList(id) == GL_TRUE, qPrintable(QString::number(id)));
 }
 
 int main(int argc, char* argv[])
