@@ -56,6 +56,8 @@ private slots:
     void nothingFlickersAtTurningPoints();
     void oddBoxes_data();
     void oddBoxes();
+    void numbersOfAnEdgeThroughTheMiddle_data();
+    void numbersOfAnEdgeThroughTheMiddle();
     void facesWithGridLinesAreBehind_data();
     void facesWithGridLinesAreBehind();
     void thinning_data();
@@ -269,6 +271,37 @@ void TestEdgePolicy::oddBoxes()
     const WindowBox box = projectBox(frame, a, b);
     for (int i = 0; i < 12; ++i)
         QVERIFY(std::abs(double(edgeOutward(box, AxisType(i)).length()) - 1.0) < 1e-5);
+}
+
+void TestEdgePolicy::numbersOfAnEdgeThroughTheMiddle_data()
+{
+    QTest::addColumn<QPointF>("along");
+    QTest::addColumn<QVector2D>("outward");
+    QTest::newRow("upwards") << QPointF(0, 9) << QVector2D(-1, 0);
+    QTest::newRow("downwards") << QPointF(0, -9) << QVector2D(-1, 0);
+    QTest::newRow("to the right") << QPointF(9, 0) << QVector2D(0, -1);
+    QTest::newRow("to the left") << QPointF(-9, 0) << QVector2D(0, -1);
+    QTest::newRow("rising") << QPointF(4, 3) << QVector2D(0.6F, -0.8F);
+    QTest::newRow("falling") << QPointF(4, -3) << QVector2D(-0.6F, -0.8F);
+    QTest::newRow("rising to the left") << QPointF(-4, 3) << QVector2D(-0.6F, -0.8F);
+}
+
+// Below the edge, or left of it where it is upright.
+void TestEdgePolicy::numbersOfAnEdgeThroughTheMiddle()
+{
+    QFETCH(QPointF, along);
+    WindowBox box;
+    box.valid = true;
+    box.corners.fill({100.0, 80.0, 0.5, true});
+    WindowPoint& start = box.corners[std::size_t(startCorner(ZFrontLeft))];
+    WindowPoint& end = box.corners[std::size_t(endCorner(ZFrontLeft))];
+    start.x -= along.x();
+    start.y -= along.y();
+    end.x += along.x();
+    end.y += along.y();
+    QFETCH(QVector2D, outward);
+    const QVector2D found = edgeOutward(box, ZFrontLeft);
+    QVERIFY2((found - outward).length() < 1e-5F, qPrintable(QString("%1, %2").arg(found.x()).arg(found.y())));
 }
 
 void TestEdgePolicy::facesWithGridLinesAreBehind_data()
