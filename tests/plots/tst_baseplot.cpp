@@ -107,6 +107,7 @@ private slots:
     void newContextShowsTheSamePicture();
     void deletingOneOfTwoPlots();
     void missingGradientIsToldOnce();
+    void gradientsOfTheStoreAreSetByName();
 };
 
 void TestBasePlot::changesEmitOnceAndRebuildAtTheNextPaint_data()
@@ -586,6 +587,24 @@ void TestBasePlot::missingGradientIsToldOnce()
     plot.updateGL();
     QCOMPARE(messages.warnings("setGradient"), 1);
     QCOMPARE(messages.warnings("bare"), 1);
+}
+
+void TestBasePlot::gradientsOfTheStoreAreSetByName()
+{
+    Plot plot;
+    const auto color = [&plot] { return (*plot.getDataColor())(0.0, 0.0, 0.5); };
+    plot.setGradients("red", {{"red", plain(Qt::red)}, {"Magma", plain(Qt::blue)}});
+    QCOMPARE(color(), QColor(Qt::red));
+    // The plot's own before a preset of the same name.
+    QVERIFY(plot.setProperty("gradient", "Magma"));
+    QCOMPARE(plot.property("gradient").toString(), QString("Magma"));
+    QCOMPARE(color(), QColor(Qt::blue));
+    QVERIFY(plot.setProperty("gradient", "Viridis"));
+    QCOMPARE(plot.property("gradient").toString(), QString("Viridis"));
+    const harness::Messages messages;
+    QVERIFY(plot.setProperty("gradient", "nowhere"));
+    QCOMPARE(plot.property("gradient").toString(), QString("Viridis"));
+    QCOMPARE(messages.warnings("there is no gradient \"nowhere\""), 1);
 }
 
 int main(int argc, char* argv[])
