@@ -54,6 +54,8 @@ private slots:
     void pickingLeavesTheFurnitureOut();
     void titleAndLegendKeepClear_data();
     void titleAndLegendKeepClear();
+    void titleOfAnyWidthKeepsClearOfTheLegend_data();
+    void titleOfAnyWidthKeepsClearOfTheLegend();
     void legendShowsTheRangeOfTheColours_data();
     void legendShowsTheRangeOfTheColours();
     void legendGetsTheGradient();
@@ -153,6 +155,38 @@ void TestFurniture::titleAndLegendKeepClear()
             }
         }
     }
+}
+
+void TestFurniture::titleOfAnyWidthKeepsClearOfTheLegend_data()
+{
+    QTest::addColumn<int>("position");
+    QTest::newRow("right") << int(Legend::Right);
+    QTest::newRow("left") << int(Legend::Left);
+}
+
+void TestFurniture::titleOfAnyWidthKeepsClearOfTheLegend()
+{
+    QFETCH(int, position);
+    Plot plot;
+    Look::light().applyTo(plot);
+    plot.getTitle().setRelativePosition({0.5, 0.97});
+    plot.getLegend().setPosition(Legend::Position(position));
+    QVERIFY(Heights(4, 4, plane).into(plot));
+    QVERIFY(harness::show(plot, 400, 200));
+    bool beside = false;
+    bool above = false;
+    for (int length = 1; length < 60; ++length) {
+        plot.slotSetTitle(QString(length, 'i'));
+        plot.updateGL();
+        const QRectF title = plot.getTitle().getRectangle();
+        const QRectF legend = plot.getLegend().getRectangle();
+        QVERIFY(!title.isEmpty() && !legend.isEmpty());
+        QVERIFY2(!title.intersects(legend), qPrintable(QString::number(length)));
+        // The legend gives way only when it must.
+        const bool apart = title.right() <= legend.left() || legend.right() <= title.left();
+        (apart ? beside : above) = true;
+    }
+    QVERIFY(beside && above);
 }
 
 void TestFurniture::legendShowsTheRangeOfTheColours_data()
