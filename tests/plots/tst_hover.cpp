@@ -88,6 +88,7 @@ private slots:
     void framesAreExact();
     void otherChangesDrawTheScene_data();
     void otherChangesDrawTheScene();
+    void aPointOfTheHostsIsMarked();
 };
 
 void TestHover::framesAreExact_data()
@@ -166,6 +167,34 @@ void TestHover::otherChangesDrawTheScene()
     plot.updateGL();
     if (qstrcmp(QTest::currentDataTag(), "frame rate") != 0)
         QCOMPARE(shown, plot.seen);
+}
+
+void TestHover::aPointOfTheHostsIsMarked()
+{
+    SeenPlot plot;
+    QVERIFY(prepare(plot, 0));
+    plot.slotTopView();
+    plot.updateGL();
+    const QImage before = plot.seen;
+    // By itself, at once and after an image of the scene was taken.
+    for (int i = 0; i < 3; ++i) {
+        plot.seen = QImage();
+        plot.highlightPoint(plot.getGridData()->valueAt(15, 15));
+        QTRY_VERIFY(!plot.seen.isNull());
+        QRect changed;
+        for (int y = 0; y < before.height(); ++y) {
+            for (int x = 0; x < before.width(); ++x) {
+                if (plot.seen.pixel(x, y) != before.pixel(x, y))
+                    changed |= QRect(x, y, 1, 1);
+            }
+        }
+        QVERIFY(!changed.isEmpty() && changed.width() < 30 && changed.height() < 30);
+        // The middle of the box is the middle of the window.
+        QVERIFY((changed.center() - before.rect().center()).manhattanLength() < 20);
+        plot.seen = QImage();
+        plot.highlightPoint(QVector3D(float(qQNaN()), 0.0F, 0.0F));
+        QTRY_COMPARE(plot.seen, before);
+    }
 }
 
 int main(int argc, char* argv[])
