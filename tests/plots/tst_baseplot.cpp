@@ -140,6 +140,8 @@ void TestBasePlot::changesEmitOnceAndRebuildAtTheNextPaint_data()
     row("scale type", "axesScaleChanged(1)", 0,
         [](Plot& p) { return p.setAxesScaleType(ZAxis, Logarithmic); });
     row("minor", "minorIntervalChanged(4)", 0, [](Plot& p) { return p.setMinorInterval(XAxis, Linear, 4); });
+    row("no minor", "minorIntervalChanged(0)", 0,
+        [](Plot& p) { return p.setMinorInterval(XAxis, Linear, 0); });
     row("major", "majorIntervalChanged(4)", 0, [](Plot& p) { return p.setMajorInterval(XAxis, Linear, 4); });
     row("style", "plotStyleChanged(2)", 3, [](Plot& p) { return p.setPlotStyle(2); }); // its mesh apart
     row("background", "", 1, [](Plot& p) { return p.setBackgroundColor(Qt::gray); });
