@@ -8,7 +8,7 @@ class SHPlot;
 } // namespace Zel3D
 
 /// The heights of a surface over a grid.
-class GridValues : public PlotValues
+class GridValues final : public PlotValues
 {
 public:
     explicit GridValues(Zel3D::SHPlot& plot);

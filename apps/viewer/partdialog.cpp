@@ -94,8 +94,8 @@ QLayout* PartDialog::makeFields(const GridSource& source)
     auto* layout = new QGridLayout;
     const QString names[] = {source.xName(), source.yName()};
     for (int axis = 0; axis < 2; ++axis) {
-        QDoubleSpinBox* const from = m_fields[std::size_t(2 * axis)];
-        QDoubleSpinBox* const to = m_fields[std::size_t(2 * axis + 1)];
+        QDoubleSpinBox* const from = m_fields[2 * std::size_t(axis)];
+        QDoubleSpinBox* const to = m_fields[2 * std::size_t(axis) + 1];
         auto* label = new QLabel(tr("%1 from").arg(names[axis]));
         label->setBuddy(from);
         from->setAccessibleName(label->text());

@@ -269,8 +269,9 @@ void PlotTabs::cycle(int step)
         return;
     const int count = all.size();
     const int from = m_current != nullptr ? all.indexOf(m_current) : step > 0 ? -1 : 0;
-    activate(*all.at(((from + step) % count + count) % count));
-    m_current->setFocus();
+    PlotPage& page = *all.at(((from + step) % count + count) % count);
+    activate(page);
+    page.setFocus();
 }
 
 bool PlotTabs::canSplit() const

@@ -75,9 +75,10 @@ QVector<double> SliceRuler::ticks(int most) const
     const bool decades = m_logarithmic && m_upper - m_lower >= 2.0;
     if (m_logarithmic && !decades) {
         // Fewer than two decades: some numbers of each.
-        for (double decade = std::floor(m_lower); decade <= m_upper; ++decade) {
+        const auto last = int(std::floor(m_upper));
+        for (int decade = int(std::floor(m_lower)); decade <= last; ++decade) {
             for (const double factor : {1.0, 2.0, 5.0}) {
-                const double number = factor * std::pow(10.0, decade);
+                const double number = factor * std::pow(10.0, double(decade));
                 if (scaled(number) >= m_lower && scaled(number) <= m_upper)
                     found.append(number);
             }
@@ -85,8 +86,9 @@ QVector<double> SliceRuler::ticks(int most) const
         return found;
     }
     const double width = decades ? std::max(1.0, std::ceil(step(most))) : step(most);
-    for (double place = std::ceil(m_lower / width); place * width <= m_upper; ++place)
-        found.append(m_logarithmic ? std::pow(10.0, place * width) : place * width);
+    const double first = std::ceil(m_lower / width);
+    for (int i = 0; (first + i) * width <= m_upper; ++i)
+        found.append(m_logarithmic ? std::pow(10.0, (first + i) * width) : (first + i) * width);
     return found;
 }
 

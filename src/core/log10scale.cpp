@@ -26,6 +26,8 @@ void Log10Scale::calculate()
         stop = 308.0;
     if (stop - start <= 0.0)
         return;
+    // Whole numbers, but the ends may be no numbers at all.
+    // NOLINTNEXTLINE(clang-analyzer-security.FloatLoopCounter)
     for (double exponent = std::floor(start); exponent <= stop; exponent += 1.0) {
         if (exponent >= start)
             majors.append(exponent);
@@ -70,6 +72,7 @@ void Log10Scale::calculateMinors()
     int decrement = 0;
     setupCounter(first, decrement);
 
+    // Mantissas, whole numbers. NOLINTBEGIN(clang-analyzer-security.FloatLoopCounter)
     const double below = majors.first() - 1.0;
     for (double c = first; c > 1.0 && below + std::log10(c) > start; c -= decrement)
         minors.append(below + std::log10(c));
@@ -83,6 +86,7 @@ void Log10Scale::calculateMinors()
         c -= decrement;
     for (; c > 1.0; c -= decrement)
         minors.append(majors.last() + std::log10(c));
+    // NOLINTEND(clang-analyzer-security.FloatLoopCounter)
 }
 
 } // namespace Zel3D

@@ -40,7 +40,7 @@ QString Translations::languageFor(const QLocale& locale)
     const QStringList offered = languages();
     const QStringList wanted = locale.uiLanguages();
     for (const QString& name : wanted) {
-        const QString language = languageOf(name);
+        QString language = languageOf(name);
         if (offered.contains(language))
             return language;
     }

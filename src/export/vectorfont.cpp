@@ -81,7 +81,7 @@ QByteArray nameOf(const QFont& font)
     if (!mono && hasSerifs(font))
         return bold ? (slanted ? "Times-BoldItalic" : "Times-Bold")
                     : (slanted ? "Times-Italic" : "Times-Roman");
-    const QByteArray family = mono ? "Courier" : "Helvetica";
+    QByteArray family = mono ? "Courier" : "Helvetica";
     if (!bold && !slanted)
         return family;
     return family + (bold ? (slanted ? "-BoldOblique" : "-Bold") : "-Oblique");

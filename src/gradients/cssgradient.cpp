@@ -92,7 +92,7 @@ QString readArgument(const Argument& argument, QVector<Item>& items)
     static const QRegularExpression form("^([^ (]*[a-zA-Z][^ (]*(?:\\([^()]*\\))?|#[^ ]*)?((?: ?[^ ()]+)*)$");
     const QRegularExpressionMatch match = form.match(text);
     const QString shown = text.left(40);
-    const QString unreadable = GradientFile::tr("“%1” is no color with a position in per cent.").arg(shown);
+    QString unreadable = GradientFile::tr("“%1” is no color with a position in per cent.").arg(shown);
     if (!match.hasMatch() || text.isEmpty())
         return unreadable;
     Item item;

@@ -134,7 +134,7 @@ QString GradientListModel::import(QIODevice& device, const QString& fallbackName
         emit noted(result.message());
         return {};
     }
-    const QString name =
+    QString name =
         add(result.name.isEmpty() ? fallbackName : result.name, gradientOf(coveringStops(result.stops)));
     emit noted(tr("“%1” was added.").arg(name));
     return name;
@@ -155,7 +155,7 @@ QString GradientListModel::rename(const QString& name, const QString& wanted)
         return {};
     }
     // Asked for beforehand: the store would report the taken name as the one that is to become current.
-    const QString free = manager->uniqueId(trimmed);
+    QString free = manager->uniqueId(trimmed);
     if (free != trimmed)
         emit noted(tr("There is a gradient “%1” already; this one is now called “%2”.").arg(trimmed, free));
     manager->changeGradient(name, free, getGradient(rowOf(name)));

@@ -43,7 +43,7 @@ QString GradientManager::uniqueId(const QString& name) const
 
 QString GradientManager::addGradient(const QString& name, const QGradient& gradient)
 {
-    const QString id = uniqueId(name);
+    QString id = uniqueId(name);
     store.insert(id, gradient);
     emit gradientAdded(id, gradient);
     return id;

@@ -22,7 +22,10 @@ constexpr int mostRibs = 360;
 CylinderAddition::CylinderAddition(int ribs, double sceneUnits, bool frame, double degrees)
     : ribNumber(fewestRibs)
 {
-    CylinderAddition::setParameters(ribs, sceneUnits, frame, degrees);
+    CylinderAddition::setRibNumber(ribs);
+    CylinderAddition::setRadius(sceneUnits);
+    CylinderAddition::setFrameVisible(frame);
+    CylinderAddition::setAngleZ(degrees);
     modified = false;
 }
 

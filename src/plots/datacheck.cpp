@@ -56,7 +56,7 @@ QString steps(double stepX, double stepY)
 QString heights(const double* const* z, unsigned int columns, unsigned int rows, double xMin, double xMax,
                 double yMin, double yMax)
 {
-    const QString fault = grid(z, columns, rows);
+    QString fault = grid(z, columns, rows);
     if (!fault.isEmpty())
         return fault;
     const struct
@@ -65,7 +65,7 @@ QString heights(const double* const* z, unsigned int columns, unsigned int rows,
         double value;
     } ends[] = {{"xMin", xMin}, {"xMax", xMax}, {"yMin", yMin}, {"yMax", yMax}};
     for (const auto& end : ends) {
-        const QString text = finite(end.name, end.value);
+        QString text = finite(end.name, end.value);
         if (!text.isEmpty())
             return text;
     }

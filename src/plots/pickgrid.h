@@ -9,7 +9,7 @@ namespace Zel3D {
 class GridData;
 
 /// Every step-th node of every step-th column of a grid; a group is a square tile of nodes.
-class PickGrid : public PickPoints
+class PickGrid final : public PickPoints
 {
 public:
     /// A \a step below 1 gives no points. \a logarithmic directions (x, y, z) are drawn as decimal exponents.

@@ -281,9 +281,10 @@ void Label::setRasterPosition()
     std::array<double, 16> drawn{};
     glGetIntegerv(GL_VIEWPORT, view.data());
     glGetDoublev(GL_PROJECTION_MATRIX, drawn.data());
-    const QPoint middle(view[0] + view[2] / 2, view[1] + view[3] / 2);
-    rasterPosition.setX(float(2.0 * (view[2] / 2) / view[2] - 1.0));
-    rasterPosition.setY(float(2.0 * (view[3] / 2) / view[3] - 1.0));
+    const QPoint half(view[2] / 2, view[3] / 2);
+    const QPoint middle = QPoint(view[0], view[1]) + half;
+    rasterPosition.setX(float(2.0 * half.x() / view[2] - 1.0));
+    rasterPosition.setY(float(2.0 * half.y() / view[3] - 1.0));
     rasterPosition.setZ(float(2.0 * placement.depth - 1.0));
     int mode = 0;
     glGetIntegerv(GL_MATRIX_MODE, &mode);

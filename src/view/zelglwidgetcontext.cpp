@@ -7,6 +7,8 @@
 #include <QOpenGLContext>
 #include <QTimer>
 
+#include <utility>
+
 namespace Zel3D {
 
 namespace {
@@ -71,7 +73,7 @@ void ZelGLWidget::resizeEvent(QResizeEvent* event)
     if (isValid())
         QGLWidget::resizeEvent(event);
     else
-        QWidget::resizeEvent(event);
+        QWidget::resizeEvent(event); // NOLINT(bugprone-parent-virtual-call): QGLWidget makes it current
 }
 
 /// Tells a problem once, in the view's place and to the host.
@@ -81,7 +83,7 @@ bool ZelGLWidget::reviewContext()
     if (!problem.isEmpty())
         initialized = false;
     if (contextNote && contextNote->text() != problem)
-        delete contextNote;
+        delete std::exchange(contextNote, nullptr);
     if (!contextNote && !problem.isEmpty()) {
         contextNote = new ContextNote(problem, this);
         contextNote->show();

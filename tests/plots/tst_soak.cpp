@@ -242,8 +242,14 @@ private slots:
         }
         const double grown = residentMemory() - settled;
         QVERIFY(steps > 100);
-        // The driver's caches and the allocator's freed blocks come and go by some MB.
-        QVERIFY2(grown < 60.0, qPrintable(QString("%1 MB more after %2 steps").arg(grown).arg(steps)));
+        // The driver's caches and the allocator's freed blocks come and go by some MB. The address sanitizer
+        // keeps 256 MB of freed blocks to itself.
+#ifdef __SANITIZE_ADDRESS__
+        constexpr double most = 60.0 + 256.0;
+#else
+        constexpr double most = 60.0;
+#endif
+        QVERIFY2(grown < most, qPrintable(QString("%1 MB more after %2 steps").arg(grown).arg(steps)));
         fprintf(stderr, "%d steps in %d s, memory %+.1f MB since %.1f MB\n", steps, int(limit / 1000), grown,
                 settled);
     }
