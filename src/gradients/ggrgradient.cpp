@@ -131,9 +131,9 @@ QString readSegment(const QString& text, double start, Segment& segment)
         if (n[i] < 0.0 || n[i] > 1.0)
             return GradientFile::tr("A color component lies outside 0 ... 1.");
     }
-    if (n[11] < Linear || n[11] > Step || n[11] != std::floor(n[11]))
+    if (n[11] < double(Linear) || n[11] > double(Step) || n[11] != std::floor(n[11]))
         return GradientFile::tr("The blending is not one of 0 ... 5.");
-    if (n[12] < Rgb || n[12] > HsvClockwise || n[12] != std::floor(n[12]))
+    if (n[12] < double(Rgb) || n[12] > double(HsvClockwise) || n[12] != std::floor(n[12]))
         return GradientFile::tr("The coloring is not one of 0 ... 2.");
     segment.blending = static_cast<int>(n[11]);
     segment.coloring = static_cast<int>(n[12]);

@@ -292,7 +292,8 @@ bool BasePlot::setGradient(const QString& name, const QGradient& gradient)
     if (!settings->getGradients().setGradient(name, gradient))
         return false;
     // A colouring of the host's may colour otherwise by the same name.
-    const bool plain = dataColor && typeid(*dataColor) == typeid(DataColor);
+    const DataColor* held = dataColor.get();
+    const bool plain = held && typeid(*held) == typeid(DataColor);
     if (!plain || dataColor->getId() != name || !sameGradient(dataColor->getGradient(), gradient))
         setDataColor(new DataColor(this, name, gradient));
     return true;

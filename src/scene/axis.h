@@ -274,7 +274,7 @@ private:
         ScaleOwner(const ScaleOwner& other);
         ScaleOwner& operator=(const ScaleOwner& other);
         ~ScaleOwner() = default;
-        void reset(Scale* scale) { owned.reset(scale); }
+        void reset(Scale* newScale) { owned.reset(newScale); }
         Scale* get() const { return owned.get(); }
         Scale* operator->() const { return owned.get(); }
 

@@ -25,9 +25,9 @@ public:
     {
     public:
         int getAlignment() const { return alignment; }
-        bool setAlignment(int value) { return store(alignment, value); }
+        bool setAlignment(int side) { return store(alignment, side); }
         /// Stores without marking for saving.
-        void placeAt(Position value) { alignment = value; }
+        void placeAt(Position side) { alignment = side; }
 
     private:
         int alignment = Right;
@@ -41,10 +41,10 @@ public:
         /// Not persisted.
         bool isAutoPositioning() const { return autoPositioning; }
         Position getPosition() const { return position; }
-        bool setPosition(Position value) { return store(position, value); }
+        bool setPosition(Position side) { return store(position, side); }
         /// 0 standing, 1 lying.
         int getOrientation() const { return orientation; }
-        bool setOrientation(int value) { return store(orientation, value); }
+        bool setOrientation(int direction) { return store(orientation, direction); }
         AxisSettings& getAxis() { return axis; }
         const AxisSettings& getAxis() const { return axis; }
         /// Not persisted. Fractions of the viewport, y upwards; the height is negative, down from y.

@@ -90,7 +90,7 @@ void TestNoContext::everythingElseWorks()
 int main(int argc, char* argv[])
 {
     qputenv("QT_XCB_GL_INTEGRATION", "none");
-    QApplication application(argc, argv);
+    QApplication app(argc, argv);
     TestNoContext test;
     return QTest::qExec(&test, argc, argv);
 }

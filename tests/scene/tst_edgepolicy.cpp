@@ -301,7 +301,8 @@ void TestEdgePolicy::numbersOfAnEdgeThroughTheMiddle()
     end.y += along.y();
     QFETCH(QVector2D, outward);
     const QVector2D found = edgeOutward(box, ZFrontLeft);
-    QVERIFY2((found - outward).length() < 1e-5F, qPrintable(QString("%1, %2").arg(found.x()).arg(found.y())));
+    const QString text = QString("%1, %2").arg(double(found.x())).arg(double(found.y()));
+    QVERIFY2((found - outward).length() < 1e-5F, qPrintable(text));
 }
 
 void TestEdgePolicy::facesWithGridLinesAreBehind_data()

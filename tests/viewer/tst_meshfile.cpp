@@ -30,7 +30,8 @@ QString text(const Mesh& mesh)
         QStringList corners;
         for (const unsigned int corner : cell) {
             const QVector3D at = mesh.vertices.at(int(corner));
-            corners.append(QString("%1 %2 %3").arg(at.x() + 0.0F).arg(at.y()).arg(at.z()));
+            corners.append(
+                QString("%1 %2 %3").arg(double(at.x() + 0.0F)).arg(double(at.y())).arg(double(at.z())));
         }
         cells.append(corners.join(','));
     }
@@ -126,8 +127,8 @@ void TestMeshFile::vertexColors()
     QStringList found;
     for (int i = 0; i < mesh.vertices.size(); ++i)
         found.append(QString("%1 %2 %3")
-                         .arg(mesh.vertices[i].x())
-                         .arg(mesh.vertices[i].y())
+                         .arg(double(mesh.vertices[i].x()))
+                         .arg(double(mesh.vertices[i].y()))
                          .arg(mesh.colors[i], 0, 16));
     found.sort();
     QCOMPARE(found.join(", "), QString("0 0 ffff0000, 1 0 ff00ff00, 1 1 ff0000ff"));
