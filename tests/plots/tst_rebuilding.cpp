@@ -235,7 +235,7 @@ void TestRebuilding::nothingIsLeftOfClearedData()
     const auto leftOf = [](int style) {
         Plot plot;
         plot.setPlotStyle(style);
-        plot.setNormalsVisible(style != 0);
+        plot.setNormalsVisible(true);
         harness::show(plot, 80, 80);
         loadHill(plot);
         plot.updateGL();
