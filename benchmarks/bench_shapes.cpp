@@ -88,15 +88,26 @@ private:
 class CylinderFloor : public Shapes
 {
 public:
-    explicit CylinderFloor(int ribs) : count(std::size_t(ribs)) {}
+    explicit CylinderFloor(int ribs) : count(std::size_t(ribs))
+    {
+        // As the library's, the outline reaches as far as the cylinder's share of the grid in x and in y.
+        for (std::size_t k = 0; k < count; ++k) {
+            widest = std::max(widest, std::abs(std::cos(around(double(k)))));
+            deepest = std::max(deepest, std::abs(std::sin(around(double(k)))));
+        }
+    }
     void prepare(const Heights& heights) override
     {
         prisms.clear();
         const int nodes = heights.size();
         const double step = 2.0 / (nodes - 1);
         normals.clear();
-        for (std::size_t k = 0; k < count; ++k)
-            normals.push_back({x(double(k) + 0.5, 1.0), y(double(k) + 0.5, 1.0), 0.0F});
+        for (std::size_t k = 0; k < count; ++k) {
+            const double nx = std::cos(around(double(k) + 0.5)) / deepest;
+            const double ny = std::sin(around(double(k) + 0.5)) / widest;
+            const double length = std::hypot(nx, ny);
+            normals.push_back({float(nx / length), float(ny / length), 0.0F});
+        }
         for (int i = 0; i < nodes; ++i) {
             for (int j = 0; j < nodes; ++j) {
                 const double z = heights.at(i, j);
@@ -150,15 +161,12 @@ private:
         std::vector<std::array<float, 3>> upper;
     };
 
-    float x(double corner, double radius) const
-    {
-        return float(radius * std::cos(2.0 * M_PI * corner / double(count)));
-    }
-    float y(double corner, double radius) const
-    {
-        return float(radius * std::sin(2.0 * M_PI * corner / double(count)));
-    }
+    double around(double corner) const { return 2.0 * M_PI * corner / double(count); }
+    float x(double corner, double radius) const { return float(radius / widest * std::cos(around(corner))); }
+    float y(double corner, double radius) const { return float(radius / deepest * std::sin(around(corner))); }
 
+    double widest = 0.0;
+    double deepest = 0.0;
     std::size_t count;
     std::vector<std::array<float, 3>> normals;
     std::vector<Prism> prisms;
@@ -216,6 +224,7 @@ public:
         plot->setPlotStyle(6);
         plot->setCylinderRibNumber(ribLines);
         plot->setCylinderFrameVisible(false);
+        plot->setCylinderAngleZ(0.0);
     }
     void prepare(const Heights& /*heights*/) override {}
     void load(Heights& heights) override

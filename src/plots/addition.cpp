@@ -47,4 +47,9 @@ bool Addition::reach(Parallelepiped& /*box*/)
     return false;
 }
 
+bool Addition::isOpaque() const
+{
+    return false;
+}
+
 } // namespace Zel3D

@@ -41,6 +41,9 @@ public:
     /// Widens a box of points to the box of all that select() draws at points in it, so that a pick need not
     /// send markers far from the cursor. False, as here, when that is not known: a pick then sends them all.
     virtual bool reach(Parallelepiped& box);
+    /// Whether all that draw() draws is filled and lets nothing through, so that it need not be blended.
+    /// False, as here, when that is not known.
+    virtual bool isOpaque() const;
 
     /// Whether a setter changed something since construction or resetModified(); only then settings are
     /// saved.

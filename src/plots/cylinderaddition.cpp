@@ -1,5 +1,6 @@
 #include "plots/cylinderaddition.h"
 
+#include "core/colorlookup.h"
 #include "core/data.h"
 #include "core/datacolor.h"
 #include "core/types.h"
@@ -11,6 +12,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <typeinfo>
 
 namespace Zel3D {
 
@@ -162,6 +164,13 @@ bool CylinderAddition::reach(Parallelepiped& box)
     box.minimum -= QVector3D(aroundX, aroundY, 0.0F);
     box.maximum += QVector3D(aroundX, aroundY, 0.0F);
     return true;
+}
+
+bool CylinderAddition::isOpaque() const
+{
+    // The frame's lines may be smooth, and a subclass may draw anything.
+    return typeid(*this) == typeid(CylinderAddition) && !frameVisible && opacity == 100 && plot &&
+           plot->getDataColor() && ColorLookup(*plot->getDataColor()).isOpaque();
 }
 
 void CylinderAddition::drawSides(const QVector3D& p, double bottom, double top) const

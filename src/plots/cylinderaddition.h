@@ -49,6 +49,7 @@ public:
     void begin() override;
     void draw(const QVector3D& p) override;
     bool reach(Parallelepiped& box) override;
+    bool isOpaque() const override;
 
     /// Writes the keys if a setter changed something; %0 = group.
     void saveSettings(const QString& group, const QString& organization, const QString& application);

@@ -9,6 +9,7 @@
 #include "plots/columncolors.h"
 #include "plots/gridarrays.h"
 #include "plots/gridwalk.h"
+#include "plots/markerscope.h"
 #include "plots/shplot.h"
 #include "scene/basedraw.h"
 #include "view/glmode.h"
@@ -265,12 +266,7 @@ void SHPlot::createAddition(Addition& addition)
 {
     if (!getData() || addition.type() != 0)
         return;
-    const GLMode offset(GL_POLYGON_OFFSET_FILL, true, false);
-    glPolygonOffset(float(getSettings().getPolygonOffset()), 1.0F);
-    const GLMode smooth(GL_LINE_SMOOTH, getSettings().getMesh().isSmooth(), false);
-    const BlendScope blending;
-    addition.setPlot(*this);
-    addition.drawBegin();
+    const MarkerScope drawing(*this, addition);
     if (getData() == gridData.get()) {
         const int step = markerStep(addition);
         if (step > 0)
@@ -283,7 +279,6 @@ void SHPlot::createAddition(Addition& addition)
                 addition.draw(cellData->getVertices().at(i));
         }
     }
-    addition.drawEnd();
 }
 
 bool SHPlot::cellIsWhole(const QVector<unsigned int>& cell) const

@@ -8,6 +8,7 @@
 #include "plots/addition.h"
 #include "plots/baseplotsettings.h"
 #include "plots/blendscope.h"
+#include "plots/markerscope.h"
 #include "plots/sheetpolygons.h"
 #include "plots/spectrum.h"
 #include "scene/basedraw.h"
@@ -163,14 +164,8 @@ void Spectrum::createAddition(Addition& addition)
 {
     if (!getData() || addition.type() != 0)
         return;
-    const GLMode offset(GL_POLYGON_OFFSET_FILL, true, false);
-    glPolygonOffset(float(getSettings().getPolygonOffset()), 1.0F);
-    const GLMode smooth(GL_LINE_SMOOTH, getSettings().getMesh().isSmooth(), false);
-    const BlendScope blending;
-    addition.setPlot(*this);
-    addition.drawBegin();
+    const MarkerScope drawing(*this, addition);
     visitPoints([&](const QVector3D& p) { addition.draw(p); });
-    addition.drawEnd();
 }
 
 void Spectrum::createSpectrumData()

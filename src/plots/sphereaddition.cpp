@@ -3,6 +3,7 @@
 #include "view/glscopes.h"
 
 #include <cmath>
+#include <typeinfo>
 
 namespace Zel3D {
 
@@ -43,6 +44,12 @@ bool SphereAddition::reach(Parallelepiped& box)
     box.minimum -= QVector3D(around, around, around);
     box.maximum += QVector3D(around, around, around);
     return true;
+}
+
+bool SphereAddition::isOpaque() const
+{
+    // A subclass may draw anything.
+    return typeid(*this) == typeid(SphereAddition) && color.alpha() == 255;
 }
 
 } // namespace Zel3D

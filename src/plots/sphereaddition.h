@@ -23,6 +23,7 @@ public:
     Addition* clone() const override;
     void draw(const QVector3D& p) override;
     bool reach(Parallelepiped& box) override;
+    bool isOpaque() const override;
 
 private:
     double radius;

@@ -83,7 +83,26 @@ QVector3D vector(const Point& p)
     return QVector3D(float(p[0]), float(p[1]), float(p[2]));
 }
 
+/// A sphere of a host's own, drawn in another colour than it says.
+class Bubble : public SphereAddition
+{
+public:
+    Bubble() : SphereAddition(0.5, Qt::red, 6, 6) {}
+    Addition* clone() const override { return new Bubble(*this); }
+    void draw(const QVector3D& p) override
+    {
+        glColor4d(1.0, 1.0, 1.0, 0.5);
+        glBegin(GL_POINTS);
+        glVertex3d(double(p.x()), double(p.y()), double(p.z()));
+        glEnd();
+    }
+};
+
+using Marker = std::shared_ptr<Addition>;
+
 } // namespace
+
+Q_DECLARE_METATYPE(Marker)
 
 class TestAdditions : public QObject
 {
@@ -103,6 +122,8 @@ private slots:
     void cylinderReachesFromTheBaseLevel();
     void cylinderFillsItsCell();
     void cylinderFrameAndOpacity();
+    void opaqueMarkersAreNotBlended_data();
+    void opaqueMarkersAreNotBlended();
     void onlyChangedValuesAreWritten();
     void clonesAreIndependent();
     void markersComeBackFromTheirValues();
@@ -377,6 +398,57 @@ void TestAdditions::cylinderFrameAndOpacity()
     }
     QCOMPARE(ribs[0].color, channels(plot->getSettings().getMesh().getColor()));
     QVERIFY(qAbs(recorder.primitives(GL_QUADS).at(0).vertices.at(0).color[3] - 0.5) < 0.01);
+}
+
+void TestAdditions::opaqueMarkersAreNotBlended_data()
+{
+    QTest::addColumn<Marker>("marker");
+    QTest::addColumn<QColor>("lowest");
+    QTest::addColumn<bool>("blended");
+    const auto bars = [](bool frame, int opacity) {
+        auto marker = std::make_shared<CylinderAddition>(6, 0.5, frame, 0.0);
+        marker->setOpacity(opacity);
+        return marker;
+    };
+    const auto sphere = [](int alpha) {
+        return std::make_shared<SphereAddition>(0.5, QColor(255, 0, 0, alpha), 6, 6);
+    };
+    QTest::newRow("bars") << Marker(bars(false, 100)) << QColor(Qt::blue) << false;
+    QTest::newRow("bars with a frame") << Marker(bars(true, 100)) << QColor(Qt::blue) << true;
+    QTest::newRow("translucent bars") << Marker(bars(false, 99)) << QColor(Qt::blue) << true;
+    QTest::newRow("bars of translucent colours")
+        << Marker(bars(false, 100)) << QColor(0, 0, 255, 100) << true;
+    QTest::newRow("sphere") << Marker(sphere(255)) << QColor(Qt::blue) << false;
+    QTest::newRow("translucent sphere") << Marker(sphere(254)) << QColor(Qt::blue) << true;
+    QTest::newRow("a host's") << Marker(std::make_shared<Bubble>()) << QColor(Qt::blue) << true;
+    QTest::newRow("dot") << Marker(std::make_shared<DotAddition>(5.0, true, Qt::red)) << QColor(Qt::blue)
+                         << true;
+}
+
+void TestAdditions::opaqueMarkersAreNotBlended()
+{
+    QFETCH(Marker, marker);
+    QFETCH(QColor, lowest);
+    QFETCH(bool, blended);
+    Plot own;
+    QLinearGradient gradient;
+    gradient.setColorAt(0.0, lowest);
+    gradient.setColorAt(1.0, Qt::red);
+    own.setGradient("tested", gradient);
+    own.setPlotStyle(0);
+    own.addAddition(*marker);
+    QVERIFY(Heights(2, 2, [](int i, int) { return 10.0 * i; }).into(own));
+    QVERIFY(harness::show(own, 80, 80));
+    GLRecorder recorder;
+    own.updateData();
+    // Off before the first marker, on again for what follows.
+    const int off = recorder.indexOf(QString("glDisable(%1)").arg(GL_BLEND));
+    QCOMPARE(off < 0, blended);
+    const int on = recorder.calls().lastIndexOf(QString("glEnable(%1)").arg(GL_BLEND));
+    QCOMPARE(on < 0, blended);
+    const int first = recorder.indexOf("glBegin");
+    QVERIFY(first > off);
+    QVERIFY(blended || on > recorder.calls().lastIndexOf("glEnd()"));
 }
 
 void TestAdditions::onlyChangedValuesAreWritten()
