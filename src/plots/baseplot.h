@@ -235,9 +235,9 @@ public:
     /// The steps of which pictures are made; see PictureWriter, which calls them.
     /// @{
 
-    /// Makes the display lists of a picture: strokes are wider by a factor and, for feedback mode, told. The
-    /// window keeps its own lists. Works before the plot was ever shown, which initialises it. False, with
-    /// nothing to end, when there is no context or the plot is just loading.
+    /// Makes the display lists of a picture: strokes are wider by a factor and, for feedback mode, told; the
+    /// window's own serve where they hold the same. Works before the plot was ever shown, which initialises
+    /// it. False, with nothing to end, when there is no context or the plot is just loading.
     bool beginPicture(double strokeScale, bool tellStrokes);
     /// Draws a part of a picture into the current framebuffer, at a viewport from (0, 0) of the tile's size;
     /// puts back viewport and matrices. Between beginPicture() and endPicture(), with the plot's own context

@@ -1,5 +1,6 @@
 // What a plot does while pictures are made of it.
 
+#include "core/types.h"
 #include "plots/baseplot.h"
 #include "plots/pictureframe.h"
 #include "plots/plotlists.h"
@@ -59,11 +60,14 @@ bool BasePlot::beginPicture(double strokeScale, bool tellStrokes)
     parts->pictureTarget->strokeScale = strokeScale;
     parts->pictureTarget->tellStrokes = tellStrokes;
     lists->pictureContext = context();
-    const DrawTargetScope target(*parts->pictureTarget);
-    std::swap(lists->drawing, lists->picture);
-    updateData();
-    updateNormals();
-    std::swap(lists->drawing, lists->picture);
+    lists->isPictureApart = tellStrokes || (!isZero(strokeScale, 1.0) && isGeometryInput(StrokeScaleInput));
+    if (lists->isPictureApart) {
+        const DrawTargetScope target(*parts->pictureTarget);
+        std::swap(lists->drawing, lists->picture);
+        updateData();
+        updateNormals();
+        std::swap(lists->drawing, lists->picture);
+    }
     return true;
 }
 
@@ -92,14 +96,16 @@ void BasePlot::paintPicture(const PictureFrame& frame)
     const QScopedValueRollback<const PictureFrame*> drawn(parts->picture, &frame);
     // The edges of the window's next frame go by those of its last one.
     const EdgeChoice windowEdges = parts->edges;
-    std::swap(lists->drawing, lists->picture);
+    if (lists->isPictureApart)
+        std::swap(lists->drawing, lists->picture);
     setFrameAspect(double(frame.size.width()) / frame.size.height());
     glViewport(0, 0, frame.tile.width(), frame.tile.height());
     glMatrixMode(GL_PROJECTION);
     glLoadMatrixd(tileMatrix(target).data());
     paintFrame(frame.background, isShowLights() && frame.parts.testFlag(PictureFrame::Data));
     setFrameAspect(0.0);
-    std::swap(lists->drawing, lists->picture);
+    if (lists->isPictureApart)
+        std::swap(lists->drawing, lists->picture);
     parts->edges = windowEdges;
 }
 

@@ -24,10 +24,11 @@ struct PlotLists
 
     Drawing drawing;
     Drawing preview; ///< the same with fewer nodes
-    Drawing picture; ///< while a picture is drawn, those of the window
+    Drawing picture; ///< while a picture is drawn with lists of its own, those of the window
     DisplayList selection;
     const QGLContext* context = nullptr; ///< where the lists live
     const QGLContext* pictureContext = nullptr;
+    bool isPictureApart = false; ///< whether a picture has lists of its own
     bool isDataOld = false;
     bool isMeshOld = false;
     bool areNormalsOld = false;

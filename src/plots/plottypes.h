@@ -29,7 +29,8 @@ enum GeometryInput : int {
     MeshColorInput,
     MeshWidthInput,
     MeshLinesInput, ///< which of the two sets of mesh lines are shown
-    BackgroundInput
+    BackgroundInput,
+    StrokeScaleInput ///< how much wider the lines and points of a picture are; of mesh and normals as well
 };
 
 /// The tool bars that a plot makes; the order is that of the context menu.

@@ -108,6 +108,10 @@ bool SHPlot::isGeometryInput(GeometryInput input) const
     // A marker may use anything of its plot.
     if (!getAdditions().isEmpty() || style == CustomMarkers)
         return true;
+    if (input == StrokeScaleInput && style == Histogram)
+        return getSettings().getNormals().isVisible() || getSettings().getCylinder().isFrameVisible();
+    if (input == StrokeScaleInput)
+        return getSettings().getNormals().isVisible() || (style != NoPlot && style != Filled);
     if (input == BackgroundInput)
         return style == HiddenLine;
     return input == MeshColorInput && style == Histogram;

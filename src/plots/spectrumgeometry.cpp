@@ -155,6 +155,8 @@ bool Spectrum::isGeometryInput(GeometryInput input) const
     // A marker may use anything of its plot.
     if (!getAdditions().isEmpty() || style == CustomMarkers)
         return true;
+    if (input == StrokeScaleInput)
+        return style != NoPlot;
     return input == MeshWidthInput && style >= Lines;
 }
 

@@ -86,7 +86,9 @@ void TestRasterPicture::hasTheLayoutOfTheWindow_data()
     QTest::addColumn<int>("style");
     QTest::newRow("points") << 1;
     QTest::newRow("wireframe") << 2;
+    QTest::newRow("surface") << 4;
     QTest::newRow("surface and mesh") << 5;
+    QTest::newRow("bars") << 6;
 }
 
 void TestRasterPicture::hasTheLayoutOfTheWindow()

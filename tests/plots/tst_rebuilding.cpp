@@ -75,6 +75,8 @@ private slots:
     void theMeshIsDrawnWhereItWas();
     void markersMayUseTheMesh();
     void spectraKeepTheirSheets();
+    void picturesTakeTheWindowsLists_data();
+    void picturesTakeTheWindowsLists();
     void nothingIsLeftOfClearedData();
 };
 
@@ -227,6 +229,58 @@ void TestRebuilding::spectraKeepTheirSheets()
     plot.setMeshLineWidth(3.0); // of the frame, and of areas without height
     plot.updateGL();
     QCOMPARE(recorder.count("glNewList"), 1);
+}
+
+void TestRebuilding::picturesTakeTheWindowsLists_data()
+{
+    QTest::addColumn<Change>("change");
+    QTest::addColumn<int>("style");
+    QTest::addColumn<double>("scale");
+    QTest::addColumn<bool>("told");
+    QTest::addColumn<bool>("apart");
+    const auto row = [](
+                         const char* name, int style, double scale, bool told, bool apart,
+                         const Change& change = [](Plot&) {}) {
+        QTest::newRow(name) << change << style << scale << told << apart;
+    };
+    row("of the window's size", 5, 1.0, false, false);
+    row("for feedback", 5, 1.0, true, true);
+    row("larger", 4, 3.0, false, false);
+    row("larger, for feedback", 4, 3.0, true, true);
+    row("larger, with a mesh", 5, 3.0, false, true);
+    row("larger, hidden lines", 3, 3.0, false, true);
+    row("larger, points", 1, 3.0, false, true);
+    row("larger, with normals", 4, 3.0, false, true, [](Plot& p) { p.setNormalsVisible(true); });
+    row("larger, with markers", 4, 3.0, false, true, [](Plot& p) {
+        Dot dot;
+        p.addAddition(dot);
+    });
+    row("larger, bars", 6, 3.0, false, false);
+    row("larger, bars with frames", 6, 3.0, false, true, [](Plot& p) { p.setCylinderFrameVisible(true); });
+}
+
+void TestRebuilding::picturesTakeTheWindowsLists()
+{
+    QFETCH(Change, change);
+    QFETCH(int, style);
+    QFETCH(double, scale);
+    QFETCH(bool, told);
+    QFETCH(bool, apart);
+    Plot plot;
+    plot.setPlotStyle(style);
+    change(plot);
+    QVERIFY(loadHill(plot));
+    QVERIFY(harness::show(plot, 80, 80));
+    plot.updateGL();
+    const int shown = listsAlive(plot);
+    GLRecorder recorder;
+    QVERIFY(plot.beginPicture(scale, told));
+    QCOMPARE(compiled(recorder).contains("data"), apart);
+    plot.endPicture();
+    QCOMPARE(listsAlive(plot), shown);
+    recorder.clear();
+    plot.updateGL();
+    QVERIFY(compiled(recorder).isEmpty());
 }
 
 void TestRebuilding::nothingIsLeftOfClearedData()
