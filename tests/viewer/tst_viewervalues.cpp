@@ -143,7 +143,7 @@ void TestViewerValues::statistics_data()
     QTest::addColumn<QVector<double>>("expected"); // count, missing, least, largest, mean, deviation, median
     QTest::newRow("odd") << QVector<double>{3, 1, 2} << QVector<double>{3, 0, 1, 3, 2, std::sqrt(2.0 / 3), 2};
     QTest::newRow("even, one missing")
-        << QVector<double>{2, NAN, 4, 4, 10} << QVector<double>{4, 1, 2, 10, 5, 3, 4};
+        << QVector<double>{2, qQNaN(), 4, 4, 10} << QVector<double>{4, 1, 2, 10, 5, 3, 4};
     QTest::newRow("all equal") << QVector<double>{7, 7} << QVector<double>{2, 0, 7, 7, 7, 0, 7};
     QTest::newRow("far from zero") << QVector<double>{1e9 + 1, 1e9 + 2, 1e9 + 3, 1e9 + 4}
                                    << QVector<double>{
@@ -256,9 +256,9 @@ void TestViewerValues::rulerHasRoundNumbers_data()
     QTest::addColumn<QVector<double>>("ticks");
     QTest::newRow("thirds") << QVector<double>{0, 0.9} << false << QVector<double>{0, 0.25, 0.5, 0.75};
     QTest::newRow("across zero, some missing")
-        << QVector<double>{NAN, -30, 25} << false << QVector<double>{-20, 0, 20};
+        << QVector<double>{qQNaN(), -30, 25} << false << QVector<double>{-20, 0, 20};
     QTest::newRow("one number") << QVector<double>{200} << false << QVector<double>{190, 195, 200, 205, 210};
-    QTest::newRow("none") << QVector<double>{NAN} << false << QVector<double>{0, 0.25, 0.5, 0.75, 1};
+    QTest::newRow("none") << QVector<double>{qQNaN()} << false << QVector<double>{0, 0.25, 0.5, 0.75, 1};
     QTest::newRow("decades") << QVector<double>{1, 1e4, -5} << true << QVector<double>{1, 10, 100, 1e3, 1e4};
     QTest::newRow("many decades") << QVector<double>{1, 1e12} << true << QVector<double>{1, 1e5, 1e10};
     QTest::newRow("less than two decades")
