@@ -11,17 +11,30 @@
 
 namespace {
 
-/// The peak of the resident set in MB, as the kernel keeps it.
-double peak()
+constexpr double bytesPerMegabyte = 1024.0 * 1024.0;
+
+/// Of a process, in MB.
+struct Memory
+{
+    double peak = 0.0;         ///< of the resident set
+    double withoutFiles = 0.0; ///< what is resident at the end without pages of programs, libraries and fonts
+};
+
+/// As the kernel keeps it.
+Memory memory()
 {
     QFile status("/proc/self/status");
     if (!status.open(QIODevice::ReadOnly))
-        return 0.0;
+        return {};
+    Memory result;
     for (const QByteArray& line : status.readAll().split('\n')) {
+        const double megabytes = line.simplified().split(' ').value(1).toDouble() / 1024.0;
         if (line.startsWith("VmHWM:"))
-            return line.mid(6).simplified().split(' ').first().toDouble() / 1024.0;
+            result.peak = megabytes;
+        else if (line.startsWith("RssAnon:"))
+            result.withoutFiles = megabytes;
     }
-    return 0.0;
+    return result;
 }
 
 int measure(bool library, int nodes)
@@ -35,16 +48,20 @@ int measure(bool library, int nodes)
     candidate->frame();
     candidate->rotate(5.0);
     candidate->frame();
-    std::printf("%.3f\n", peak());
+    const Memory used = memory();
+    std::printf("%.3f %.3f\n", used.peak, used.withoutFiles);
     return 0;
 }
 
-double inProcess(const char* who, int nodes)
+Memory inProcess(const char* who, int nodes)
 {
     QProcess process;
     process.start(QCoreApplication::applicationFilePath(), {who, QString::number(nodes)});
     process.waitForFinished(-1);
-    return process.exitCode() == 0 ? process.readAllStandardOutput().trimmed().toDouble() : -1.0;
+    const QList<QByteArray> numbers = process.readAllStandardOutput().simplified().split(' ');
+    if (process.exitCode() != 0 || numbers.size() != 2)
+        return {-1.0, -1.0};
+    return {numbers[0].toDouble(), numbers[1].toDouble()};
 }
 
 } // namespace
@@ -55,13 +72,17 @@ int main(int argc, char* argv[])
     QApplication application(argc, argv);
     if (argc == 3)
         return measure(std::strcmp(argv[1], "library") == 0, std::atoi(argv[2]));
-    std::printf("Peak memory in MB, no multisampling\n\n"
-                "| N | floor | library | bytes a node on top |\n| --- | --- | --- | --- |\n");
+    std::printf("Peak memory in MB, no multisampling; on top of the floor, bytes a node\n\n"
+                "| N | floor | library | on top | of it not pages of files |\n"
+                "| --- | --- | --- | --- | --- |\n");
     for (int nodes : {128, 256, 512, 1024, 2048}) {
-        const double floor = inProcess("floor", nodes);
-        const double library = inProcess("library", nodes);
-        std::printf("| %d | %.0f | %.0f | %.0f |\n", nodes, floor, library,
-                    (library - floor) * 1024.0 * 1024.0 / (double(nodes) * nodes));
+        const Memory floor = inProcess("floor", nodes);
+        const Memory library = inProcess("library", nodes);
+        const auto aNode = [nodes](double megabytes) {
+            return megabytes * bytesPerMegabyte / (double(nodes) * nodes);
+        };
+        std::printf("| %d | %.0f | %.0f | %.0f | %.0f |\n", nodes, floor.peak, library.peak,
+                    aNode(library.peak - floor.peak), aNode(library.withoutFiles - floor.withoutFiles));
     }
     return 0;
 }

@@ -25,8 +25,8 @@ QRgb separated(QRgb onBlack, QRgb onWhite)
 
 } // namespace
 
-PictureSession::PictureSession(BasePlot& drawnPlot, double strokeScale, bool tellStrokes)
-    : plot(drawnPlot), ready(plot.beginPicture(strokeScale, tellStrokes))
+PictureSession::PictureSession(BasePlot& drawnPlot, double strokeScale, bool tellStrokes, bool kept)
+    : plot(drawnPlot), ready(plot.beginPicture(strokeScale, tellStrokes, kept))
 {
 }
 

@@ -13,7 +13,7 @@ class PictureSession
 {
 public:
     /// See BasePlot::beginPicture().
-    PictureSession(BasePlot& drawnPlot, double strokeScale, bool tellStrokes);
+    PictureSession(BasePlot& drawnPlot, double strokeScale, bool tellStrokes, bool kept = false);
     ~PictureSession();
     PictureSession(const PictureSession&) = delete;
     PictureSession& operator=(const PictureSession&) = delete;

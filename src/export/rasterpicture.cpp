@@ -61,7 +61,9 @@ QImage RasterPicture::render()
     if (image.isNull())
         return fail(tr("A picture of %1 by %2 pixels is too large.").arg(size.width()).arg(size.height()));
     const double ratio = PictureOptions::ratio(plot, size);
-    PictureSession session(plot, ratio / plot.devicePixelRatioF(), false);
+    // The progress may let the window go on; all tiles show one moment.
+    const bool kept = options.progress && std::max(size.width(), size.height()) > longestTile();
+    PictureSession session(plot, ratio / plot.devicePixelRatioF(), false, kept);
     if (!session.isReady())
         return fail(session.getProblem());
     if (!paintTiles(session, image))
@@ -70,13 +72,18 @@ QImage RasterPicture::render()
     return image;
 }
 
+int RasterPicture::longestTile() const
+{
+    return options.largestTile > 0 ? options.largestTile : usualTile;
+}
+
 bool RasterPicture::paintTiles(PictureSession& session, QImage& image)
 {
     PictureFrame frame;
     frame.size = image.size();
     frame.textRatio = PictureOptions::ratio(plot, image.size());
     frame.background = options.backgroundFor(plot);
-    int edge = std::min(session.largestTile(), options.largestTile > 0 ? options.largestTile : usualTile);
+    int edge = std::min(session.largestTile(), longestTile());
     edge = std::max(edge, smallestTile);
     const bool whole = std::max(image.width(), image.height()) <= edge;
     const int margin =

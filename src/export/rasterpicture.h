@@ -33,6 +33,7 @@ public:
     static void describe(QImage& image, const BasePlot& plot, const PictureOptions& options);
 
 private:
+    int longestTile() const;
     bool paintTiles(PictureSession& session, QImage& image);
     QImage fail(const QString& reason);
 

@@ -242,6 +242,11 @@ void BasePlot::markAllChanged()
 void BasePlot::markMeshChanged(GeometryInput input)
 {
     lists->isMeshOld = true;
+    markInputChanged(input);
+}
+
+void BasePlot::markInputChanged(GeometryInput input)
+{
     if (isGeometryInput(input))
         markDataChanged();
 }

@@ -235,13 +235,12 @@ public:
     /// The steps of which pictures are made; see PictureWriter, which calls them.
     /// @{
 
-    /// Makes the display lists of a picture: strokes are wider by a factor and, for feedback mode, told; the
-    /// window's own serve where they hold the same. Works before the plot was ever shown, which initialises
-    /// it. False, with nothing to end, when there is no context or the plot is just loading.
-    bool beginPicture(double strokeScale, bool tellStrokes);
+    /// Makes the display lists of a picture: strokes are wider by a factor and, for feedback mode, told. The
+    /// window's own serve where they hold the same, unless the picture is to be \a kept whatever changes.
+    /// Works on a plot that was never shown. False, with nothing to end, without a context or while it loads.
+    bool beginPicture(double strokeScale, bool tellStrokes, bool kept = false);
     /// Draws a part of a picture into the current framebuffer, at a viewport from (0, 0) of the tile's size;
-    /// puts back viewport and matrices. Between beginPicture() and endPicture(), with the plot's own context
-    /// current.
+    /// puts back viewport and matrices. For between the two others, with the plot's own context current.
     void paintPicture(const PictureFrame& frame);
     /// Frees what beginPicture() made. Makes the plot's context current.
     void endPicture();
@@ -351,8 +350,8 @@ protected:
     virtual void drawArrays();
     /// Sends the mesh lines, for a createData() that calls sendMesh(); here nothing.
     virtual void createMesh();
-    /// Whether createData() and createAdditions() use a value in the state that the plot is in, so that its
-    /// change compiles the geometry again. True here; a subclass that knows better saves time.
+    /// Whether what is sent in the plot's state depends on a value, whose change compiles it again. True here;
+    /// a subclass that knows better saves time, one that sends more than its base says so.
     virtual bool isGeometryInput(GeometryInput input) const;
     /// By what the node step can be multiplied for a preview so that the data are still recognised; 1, here,
     /// for no preview.
@@ -474,6 +473,7 @@ private:
     bool drawHovered();
     void drawMarks();
     void markMeshChanged(GeometryInput input);
+    void markInputChanged(GeometryInput input);
     void markColorsChanged();
     void compileSelection();
     void highlightPick(const SelectedObjectsInfo& info);

@@ -116,7 +116,11 @@ void BasePlot::loadMarkers()
         if (!parts->addedMarkers.contains(addition))
             markers.append(describeMarker(*addition));
     }
-    for (int i = 0; i < size.toInt(); ++i) {
+    // As many as there are, whatever the number claims.
+    store.beginGroup(group);
+    const int count = std::min(size.toInt(), store.childGroups().size());
+    store.endGroup();
+    for (int i = 0; i < count; ++i) {
         store.beginGroup(QString("%0/%1").arg(group).arg(i));
         QVariantMap values;
         for (const QString& name : store.childKeys())

@@ -14,7 +14,7 @@
 #include <QScopedValueRollback>
 
 #include <array>
-#include <utility>
+#include <memory>
 
 namespace Zel3D {
 
@@ -46,7 +46,7 @@ private:
 
 } // namespace
 
-bool BasePlot::beginPicture(double strokeScale, bool tellStrokes)
+bool BasePlot::beginPicture(double strokeScale, bool tellStrokes, bool kept)
 {
     if (parts->pictureTarget || isBusy())
         return false;
@@ -60,13 +60,13 @@ bool BasePlot::beginPicture(double strokeScale, bool tellStrokes)
     parts->pictureTarget->strokeScale = strokeScale;
     parts->pictureTarget->tellStrokes = tellStrokes;
     lists->pictureContext = context();
-    lists->isPictureApart = tellStrokes || (!isZero(strokeScale, 1.0) && isGeometryInput(StrokeScaleInput));
+    const bool sameStrokes = isZero(strokeScale, 1.0) || !isGeometryInput(StrokeScaleInput);
+    lists->isPictureApart = kept || tellStrokes || !sameStrokes || lists->context != context();
     if (lists->isPictureApart) {
         const DrawTargetScope target(*parts->pictureTarget);
-        std::swap(lists->drawing, lists->picture);
+        const ListExchange exchange(*lists, lists->picture);
         updateData();
         updateNormals();
-        std::swap(lists->drawing, lists->picture);
     }
     return true;
 }
@@ -96,16 +96,15 @@ void BasePlot::paintPicture(const PictureFrame& frame)
     const QScopedValueRollback<const PictureFrame*> drawn(parts->picture, &frame);
     // The edges of the window's next frame go by those of its last one.
     const EdgeChoice windowEdges = parts->edges;
+    std::unique_ptr<ListExchange> exchange;
     if (lists->isPictureApart)
-        std::swap(lists->drawing, lists->picture);
+        exchange = std::make_unique<ListExchange>(*lists, lists->picture);
     setFrameAspect(double(frame.size.width()) / frame.size.height());
     glViewport(0, 0, frame.tile.width(), frame.tile.height());
     glMatrixMode(GL_PROJECTION);
     glLoadMatrixd(tileMatrix(target).data());
     paintFrame(frame.background, isShowLights() && frame.parts.testFlag(PictureFrame::Data));
     setFrameAspect(0.0);
-    if (lists->isPictureApart)
-        std::swap(lists->drawing, lists->picture);
     parts->edges = windowEdges;
 }
 

@@ -55,17 +55,15 @@ void BasePlot::preparePreview()
     preview.step = step;
     preview.isListed = true;
     const QScopedValueRollback<int> coarse(parts->coarseness, step);
-    std::swap(lists->drawing, lists->preview);
+    const ListExchange exchange(*lists, lists->preview);
     updateData();
     updateNormals();
-    std::swap(lists->drawing, lists->preview);
 }
 
 /// When the list of the data is another. With the context of the lists.
 void BasePlot::removePreview()
 {
-    // The preview itself, and a picture, are compiled in the place of the window's list.
-    if (parts->coarseness > 1 || parts->pictureTarget)
+    if (lists->areExchanged)
         return;
     parts->hoverImage.clear();
     parts->preview.isListed = false;

@@ -130,7 +130,7 @@ bool BasePlot::setCylinderRibNumber(int ribs)
 {
     if (!settings->getCylinder().setRibNumber(ribs))
         return false;
-    markDataChanged();
+    markInputChanged(CylinderInput);
     emit cylinderRibNumberChanged(ribs);
     return true;
 }
@@ -139,7 +139,7 @@ bool BasePlot::setCylinderRadius(double sceneUnits)
 {
     if (!settings->getCylinder().setRadius(sceneUnits))
         return false;
-    markDataChanged();
+    markInputChanged(CylinderInput);
     emit cylinderRadiusChanged(int(sceneUnits));
     return true;
 }
@@ -148,7 +148,7 @@ bool BasePlot::setCylinderFrameVisible(bool on)
 {
     if (!settings->getCylinder().setFrameVisible(on))
         return false;
-    markDataChanged();
+    markInputChanged(CylinderInput);
     emit cylinderFrameVisibleChanged(on);
     return true;
 }
@@ -157,7 +157,7 @@ bool BasePlot::setCylinderAngleZ(double degrees)
 {
     if (!settings->getCylinder().setAngleZ(degrees))
         return false;
-    markDataChanged();
+    markInputChanged(CylinderInput);
     emit cylinderAngleZChanged(degrees);
     return true;
 }
@@ -166,7 +166,7 @@ bool BasePlot::setCylinderMultiplier(double factor)
 {
     if (!settings->getCylinder().setMultiplier(factor))
         return false;
-    markDataChanged();
+    markInputChanged(CylinderInput);
     emit cylinderMultiplier(factor);
     return true;
 }
@@ -175,7 +175,7 @@ bool BasePlot::setCylinderOpacity(int percent)
 {
     if (!settings->getCylinder().setOpacity(percent))
         return false;
-    markDataChanged();
+    markInputChanged(CylinderInput);
     emit cylinderOpacityChanged(percent);
     return true;
 }
@@ -184,7 +184,7 @@ bool BasePlot::setDotSize(double pixels)
 {
     if (!settings->getDot().setSize(pixels))
         return false;
-    markDataChanged();
+    markInputChanged(DotInput);
     emit dotSizeChanged(pixels);
     return true;
 }
@@ -193,7 +193,7 @@ bool BasePlot::setDotSmooth(bool on)
 {
     if (!settings->getDot().setSmooth(on))
         return false;
-    markDataChanged();
+    markInputChanged(DotInput);
     emit dotSmoothChanged(on);
     return true;
 }

@@ -1,5 +1,7 @@
 #include "plots/plotlists.h"
 
+#include <utility>
+
 namespace Zel3D {
 
 void PlotLists::Drawing::remove()
@@ -14,6 +16,18 @@ void PlotLists::Drawing::forget()
     for (DisplayList* list : {&normals, &data, &mesh})
         list->forget();
     isMeshApart = false;
+}
+
+ListExchange::ListExchange(PlotLists& plotLists, PlotLists::Drawing& others) : lists(plotLists), other(others)
+{
+    std::swap(lists.drawing, other);
+    lists.areExchanged = true;
+}
+
+ListExchange::~ListExchange()
+{
+    std::swap(lists.drawing, other);
+    lists.areExchanged = false;
 }
 
 } // namespace Zel3D

@@ -29,10 +29,25 @@ struct PlotLists
     const QGLContext* context = nullptr; ///< where the lists live
     const QGLContext* pictureContext = nullptr;
     bool isPictureApart = false; ///< whether a picture has lists of its own
+    bool areExchanged = false;   ///< while those of a picture or a preview stand in the window's place
     bool isDataOld = false;
     bool isMeshOld = false;
     bool areNormalsOld = false;
     bool isSelectionOld = true;
+};
+
+/// Puts other lists in the place of the window's for a scope.
+class ListExchange
+{
+public:
+    ListExchange(PlotLists& plotLists, PlotLists::Drawing& others);
+    ~ListExchange();
+    ListExchange(const ListExchange&) = delete;
+    ListExchange& operator=(const ListExchange&) = delete;
+
+private:
+    PlotLists& lists;
+    PlotLists::Drawing& other;
 };
 
 } // namespace Zel3D

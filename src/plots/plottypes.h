@@ -30,6 +30,8 @@ enum GeometryInput : int {
     MeshWidthInput,
     MeshLinesInput, ///< which of the two sets of mesh lines are shown
     BackgroundInput,
+    DotInput,        ///< the marker of plot style points
+    CylinderInput,   ///< the bars of a histogram
     StrokeScaleInput ///< how much wider the lines and points of a picture are; of mesh and normals as well
 };
 

@@ -112,6 +112,8 @@ bool SHPlot::isGeometryInput(GeometryInput input) const
         return getSettings().getNormals().isVisible() || getSettings().getCylinder().isFrameVisible();
     if (input == StrokeScaleInput)
         return getSettings().getNormals().isVisible() || (style != NoPlot && style != Filled);
+    if (input == DotInput || input == CylinderInput)
+        return style == (input == DotInput ? Points : Histogram);
     if (input == BackgroundInput)
         return style == HiddenLine;
     return input == MeshColorInput && style == Histogram;

@@ -157,6 +157,8 @@ bool Spectrum::isGeometryInput(GeometryInput input) const
         return true;
     if (input == StrokeScaleInput)
         return style != NoPlot;
+    if (input == DotInput)
+        return style == Points;
     return input == MeshWidthInput && style >= Lines;
 }
 

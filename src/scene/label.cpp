@@ -14,6 +14,15 @@ namespace Zel3D {
 
 namespace {
 
+/// Of a text, at a pixel ratio of 1: more than a window has.
+constexpr double mostPixels = 8.0 * 1024.0 * 1024.0;
+
+/// Whether a text is of a size to draw. One of a damaged font would take gigabytes.
+bool isDrawable(const QSize& size)
+{
+    return size.isValid() && double(size.width()) * double(size.height()) <= mostPixels;
+}
+
 /// Lets only the opaque and half-opaque pixels of an image through and blends them; puts back what it
 /// changed.
 class PixelTestScope
@@ -175,7 +184,7 @@ void Label::update()
 {
     const QRect rectangle = getBoundRect();
     settings.setNeedUpdate(false);
-    image = QImage(getImageSize(), QImage::Format_ARGB32);
+    image = isDrawable(rectangle.size()) ? QImage(getImageSize(), QImage::Format_ARGB32) : QImage();
     if (image.isNull())
         return;
     image.setDevicePixelRatio(pixelRatio);

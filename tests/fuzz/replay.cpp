@@ -36,9 +36,11 @@ private:
 
     void change(QByteArray& input)
     {
+        // A literal would end at it.
+        const QByteArray nul(1, '\0');
         static const QVector<QByteArray> words = {
             "0",  "-1", "1e308", "1e-320",       "nan",  "inf", "2147483648", "\"", ",", ";", "\t",
-            "\n", "\r", "\0",    "\xef\xbb\xbf", "\xff", "0x",  "%",          "=",  "(", ")"};
+            "\n", "\r", nul,     "\xef\xbb\xbf", "\xff", "0x",  "%",          "=",  "(", ")"};
         const int place = below(input.size() + 1);
         switch (below(6)) {
         case 0:

@@ -5,6 +5,9 @@
 #include "plots/arrowaddition.h"
 #include "plots/look.h"
 #include "plots/spectrum.h"
+#include "scene/coordinatesystem.h"
+#include "scene/legend.h"
+#include "view/light.h"
 
 #include <QBrush>
 #include <QElapsedTimer>
@@ -33,6 +36,7 @@ QVector<QVariant> absurdities()
             2000000000,
             std::numeric_limits<int>::min(),
             1e300,
+            1e30,
             -1e30,
             1e-320,
             std::numeric_limits<double>::quiet_NaN(),
@@ -41,6 +45,7 @@ QVector<QVariant> absurdities()
             QStringList{"a", "b", ""},
             deep,
             QColor(),
+            QFont("Sans Serif", 4000),
             true};
 }
 
@@ -49,13 +54,34 @@ QSettings store()
     return QSettings(organization, application);
 }
 
-/// Writes every key that a plot keeps.
+/// Writes every key that a plot keeps, those that are written only where they differ from the usual as well.
 template <class AnyPlot>
 QStringList writeEverything(AnyPlot& plot)
 {
     Look::light().applyTo(plot);
     plot.setAutoScaling(false);
     plot.setScale({2.0, 1.0, 3.0});
+    plot.setCylinderOpacity(50);
+    plot.setCylinderMultiplier(0.5);
+    plot.setBoxScaling(ManualScaling);
+    plot.setAutomaticEdges(false);
+    plot.getCoordinateSystem().setAxesVisible(XFrontBottom, false);
+    plot.getLegend().setAutoPositioning(false);
+    plot.getLegend().setManualRectangle(QRectF(0.1, 0.2, 0.1, 0.5));
+    plot.setKeepProportions(false);
+    for (Light* light : plot.getLights()) {
+        light->setDiffuse(Qt::green);
+        light->setSpecular(Qt::yellow);
+        light->setAmbient(Qt::gray);
+        light->setRadius(5.0);
+        light->setPhi(11.0);
+        light->setTheta(12.0);
+        light->setConstAttenuation(0.5);
+        light->setLinearAttenuation(0.5);
+        light->setQuadraticAttenuation(0.5);
+    }
+    plot.setMarkers({QVariantMap{{"kind", "dot"}}, QVariantMap{{"kind", "cylinder"}},
+                     QVariantMap{{"kind", "sphere"}}, QVariantMap{{"kind", "arrow"}}});
     plot.slotSaveSettings();
     return store().allKeys();
 }

@@ -97,6 +97,13 @@ void TestRebuilding::aChangeRebuildsWhatItMust_data()
     row("mesh colour, no mesh shown", 4, "", red);
     row("mesh colour, points", 1, "", red);
     row("mesh colour, frames of the histogram", 6, "data", red);
+    row("dots, surface", 4, "", [](Plot& p) { p.setDotSize(7.0); });
+    row("dots, points", 1, "data", [](Plot& p) { p.setDotSize(7.0); });
+    row("bars, surface", 5, "", [](Plot& p) {
+        p.setCylinderRibNumber(5);
+        p.setCylinderOpacity(50);
+    });
+    row("bars, histogram", 6, "data", [](Plot& p) { p.setCylinderRibNumber(5); });
     row("mesh width", 5, "mesh", [](Plot& p) { p.setMeshLineWidth(3.0); });
     row("mesh lines", 5, "mesh", [](Plot& p) { p.setMeshXVisible(false); });
     row("both, painted once", 5, "mesh", [](Plot& p) {
@@ -244,6 +251,10 @@ void TestRebuilding::picturesTakeTheWindowsLists_data()
         QTest::newRow(name) << change << style << scale << told << apart;
     };
     row("of the window's size", 5, 1.0, false, false);
+    row("of cells", 5, 1.0, false, false, [](Plot& p) { loadCells(p); });
+    row("larger, of cells", 4, 3.0, false, false, [](Plot& p) { loadCells(p); });
+    row("larger, of cells with a mesh", 5, 3.0, false, true, [](Plot& p) { loadCells(p); });
+    row("larger, of changing data", 4, 3.0, false, false, [](Plot& p) { p.setDataChanging(true); });
     row("for feedback", 5, 1.0, true, true);
     row("larger", 4, 3.0, false, false);
     row("larger, for feedback", 4, 3.0, true, true);
@@ -268,8 +279,8 @@ void TestRebuilding::picturesTakeTheWindowsLists()
     QFETCH(bool, apart);
     Plot plot;
     plot.setPlotStyle(style);
-    change(plot);
     QVERIFY(loadHill(plot));
+    change(plot);
     QVERIFY(harness::show(plot, 80, 80));
     plot.updateGL();
     const int shown = listsAlive(plot);
@@ -281,6 +292,10 @@ void TestRebuilding::picturesTakeTheWindowsLists()
     recorder.clear();
     plot.updateGL();
     QVERIFY(compiled(recorder).isEmpty());
+    // A picture of one moment does not go by what the window may become.
+    QVERIFY(plot.beginPicture(1.0, false, true));
+    QCOMPARE(recorder.count("glNewList") > 0, true);
+    plot.endPicture();
 }
 
 void TestRebuilding::nothingIsLeftOfClearedData()

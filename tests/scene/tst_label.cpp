@@ -45,6 +45,7 @@ private slots:
     void edgesBlendOntoTheBackground();
     void imageIsRenderedOnlyWhenItShowsSomethingElse();
     void emptyTextIsABlank();
+    void whatIsLargerThanAWindowTakesNoMemory();
     void quarterTurnSwapsTheSides();
     void stateIsPutBack();
     void persistence();
@@ -341,6 +342,25 @@ void TestLabel::emptyTextIsABlank()
     QCOMPARE(label.getSettings().getText(), QString(" "));
     QVERIFY(drawn(label).isNull());
     QCOMPARE(label.getImage().size(), blank);
+}
+
+void TestLabel::whatIsLargerThanAWindowTakesNoMemory()
+{
+    // As a damaged store may have it: 170 and 400 MB.
+    Label label;
+    prepare(label, "0.5", QVector3D());
+    label.getSettings().setFont(QFont("DejaVu Sans", 4000));
+    QVERIFY(drawn(label).isEmpty());
+    QVERIFY(label.getImage().isNull());
+    label.getSettings().setFont(QFont("DejaVu Sans", 12));
+    label.getSettings().setText(QString(600000, 'w'));
+    QVERIFY(drawn(label).isEmpty());
+    QVERIFY(label.getImage().isNull());
+    // It comes back with a text that fits, however large.
+    label.getSettings().setText("0.5");
+    QVERIFY(!drawn(label).isEmpty());
+    label.getSettings().setFont(QFont("DejaVu Sans", 400));
+    QVERIFY(!drawn(label).isEmpty());
 }
 
 void TestLabel::quarterTurnSwapsTheSides()

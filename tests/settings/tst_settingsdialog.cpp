@@ -423,10 +423,9 @@ void TestSettingsDialog::onlyWhatMustBeIsRebuilt_data()
     QTest::addColumn<int>("builds");
     for (const char* id : {"common/rotationX", "common/zoom", "title/positionX", "title/text",
                            "axes/axis0/line/color", "lighting/light0/phi", "legend/numbers/color",
-                           "grid/color", "scales/x/linear/major", "style/meshWidth"})
+                           "grid/color", "scales/x/linear/major", "style/meshWidth", "additions/dotSize"})
         QTest::newRow(id) << id << 0;
-    for (const char* id : {"additions/dotSize", "common/resolution"})
-        QTest::newRow(id) << id << 1;
+    QTest::newRow("common/resolution") << QString("common/resolution") << 1;
 }
 
 void TestSettingsDialog::onlyWhatMustBeIsRebuilt()
