@@ -60,7 +60,7 @@ Memory inProcess(const char* who, int nodes)
     process.waitForFinished(-1);
     const QList<QByteArray> numbers = process.readAllStandardOutput().simplified().split(' ');
     if (process.exitCode() != 0 || numbers.size() != 2)
-        return {-1.0, -1.0};
+        return {};
     return {numbers[0].toDouble(), numbers[1].toDouble()};
 }
 
@@ -72,12 +72,18 @@ int main(int argc, char* argv[])
     QApplication application(argc, argv);
     if (argc == 3)
         return measure(std::strcmp(argv[1], "library") == 0, std::atoi(argv[2]));
-    std::printf("Peak memory in MB, no multisampling; on top of the floor, bytes a node\n\n"
-                "| N | floor | library | on top | of it not pages of files |\n"
-                "| --- | --- | --- | --- | --- |\n");
+    std::printf(
+        "Peak memory in MB, no multisampling; more than the floor in bytes a node: of the peak, and of what "
+        "is resident in the end without pages of files\n\n"
+        "| N | floor | library | more | more without files |\n"
+        "| --- | --- | --- | --- | --- |\n");
     for (int nodes : {128, 256, 512, 1024, 2048}) {
         const Memory floor = inProcess("floor", nodes);
         const Memory library = inProcess("library", nodes);
+        if (floor.peak <= 0.0 || library.peak <= 0.0) {
+            std::fprintf(stderr, "bench_memory: a process with %d by %d nodes failed\n", nodes, nodes);
+            return 1;
+        }
         const auto aNode = [nodes](double megabytes) {
             return megabytes * bytesPerMegabyte / (double(nodes) * nodes);
         };

@@ -18,6 +18,7 @@
 #include "viewerwindow.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QListWidget>
@@ -319,6 +320,14 @@ void TestViewerLanguage::preferencesApplyAtOnce()
     QCOMPARE(ViewerPreferences::nodeBudget(), 500000);
     QCOMPARE(budget->text(), QString("0,50 Millionen Knoten"));
     QVERIFY(texts(dialog).filter("etwa 0,2 GB Speicher").size() == 1);
+
+    // A preview while a large grid is turned, unless a person does without.
+    showToroid();
+    QVERIFY(m_window->page()->view().plot().isPreviewing());
+    dialog.findChild<QCheckBox*>("preview")->click();
+    QString error;
+    QVERIFY(m_window->present(std::make_unique<ToroidSource>(), error));
+    QVERIFY(!m_window->page()->view().plot().isPreviewing());
 }
 
 void TestViewerLanguage::standardLookDressesNewPlots()
