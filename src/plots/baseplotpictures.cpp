@@ -50,7 +50,8 @@ bool BasePlot::beginPicture(double strokeScale, bool tellStrokes, bool kept)
 {
     if (parts->pictureTarget || isBusy())
         return false;
-    if (!isInitialized())
+    // A new context, as setFormat() makes, has none of the state and the lists until the window is painted.
+    if (!isInitialized() || lists->context != context())
         glInit();
     if (!isValid() || !isInitialized())
         return false;
@@ -61,7 +62,7 @@ bool BasePlot::beginPicture(double strokeScale, bool tellStrokes, bool kept)
     parts->pictureTarget->tellStrokes = tellStrokes;
     lists->pictureContext = context();
     const bool sameStrokes = isZero(strokeScale, 1.0) || !isGeometryInput(StrokeScaleInput);
-    lists->isPictureApart = kept || tellStrokes || !sameStrokes || lists->context != context();
+    lists->isPictureApart = kept || tellStrokes || !sameStrokes;
     if (lists->isPictureApart) {
         const DrawTargetScope target(*parts->pictureTarget);
         const ListExchange exchange(*lists, lists->picture);

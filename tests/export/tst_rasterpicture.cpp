@@ -72,6 +72,8 @@ private slots:
     void needsNoWindow();
     void tilesHaveNoSeams_data();
     void tilesHaveNoSeams();
+    void tilesShowOneMoment();
+    void newContextsGetTheirData();
     void isLargerThanTheDriverDraws();
     void transparentBackground();
     void canBeCancelled();
@@ -188,6 +190,40 @@ void TestRasterPicture::tilesHaveNoSeams()
     // Rasterising in another place rounds edges differently: single pixels, and by little.
     const double found = difference(whole, tiled, 64);
     QVERIFY2(found < 0.001, qPrintable(QString::number(found)));
+}
+
+void TestRasterPicture::tilesShowOneMoment()
+{
+    Plot plot;
+    plot.setPlotStyle(4);
+    QVERIFY(makeHill(plot, 2));
+    QVERIFY(harness::show(plot, 320, 240));
+    PictureOptions options = ofSize(320, 240);
+    options.largestTile = 100;
+    const QImage undisturbed = RasterPicture(plot, options).render();
+    // A host's timer that comes while tiles are drawn, and the window's repaint.
+    options.progress = [&plot](int done, int) {
+        if (done == 2) {
+            plot.setPlotStyle(0);
+            plot.updateGL();
+        }
+        return true;
+    };
+    const QImage disturbed = RasterPicture(plot, options).render();
+    QVERIFY(difference(undisturbed, disturbed, 8) < 0.001);
+}
+
+void TestRasterPicture::newContextsGetTheirData()
+{
+    Plot plot;
+    plot.setPlotStyle(4);
+    QVERIFY(makeHill(plot, 2));
+    QVERIFY(harness::show(plot, 320, 240));
+    const QImage shown = RasterPicture(plot, ofSize(320, 240)).render();
+    // Lists do not come along.
+    plot.setFormat(plot.format());
+    const QImage picture = RasterPicture(plot, ofSize(320, 240)).render();
+    QVERIFY(difference(shown, picture, 8) < 0.001);
 }
 
 void TestRasterPicture::isLargerThanTheDriverDraws()
