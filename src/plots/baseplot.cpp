@@ -33,6 +33,14 @@ constexpr double titleGap = 16.0;
 constexpr unsigned int listState = GL_ENABLE_BIT | GL_LINE_BIT | GL_POINT_BIT | GL_POLYGON_BIT |
                                    GL_COLOR_BUFFER_BIT | GL_CURRENT_BIT | GL_TRANSFORM_BIT;
 
+/// The state in which lists are compiled, which GLMode writes into them.
+struct CompileScope
+{
+    CompileScope() { glMatrixMode(GL_MODELVIEW); }
+    const GLMode depthTest{GL_DEPTH_TEST, true, false};
+    const GLMode lineSmooth{GL_LINE_SMOOTH, true, false};
+};
+
 } // namespace
 
 BasePlot::BasePlot(const QString& name, const QString& organizationName, const QString& applicationName,
@@ -66,10 +74,7 @@ BasePlot::BasePlot(const QString& name, const QString& organizationName, const Q
     createActions();
     parts->properties = std::make_unique<PlotProperties>(*this);
     // The hidden line style fills the surface with the background colour.
-    connect(this, &ZelGLWidget::backgroundColorChanged, this, [this] {
-        if (isGeometryInput(BackgroundInput))
-            markDataChanged();
-    });
+    connect(this, &ZelGLWidget::backgroundColorChanged, this, [this] { markInputChanged(BackgroundInput); });
 }
 
 BasePlot::~BasePlot()
@@ -190,6 +195,7 @@ void BasePlot::drawData()
     const bool coarse = parts->preview.isShown && !parts->picture;
     const PlotLists::Drawing& drawn = coarse ? lists->preview : lists->drawing;
     drawn.normals.call();
+    drawn.additions.call();
     drawn.data.call();
     if (!coarse)
         drawArrays();
@@ -222,6 +228,10 @@ void BasePlot::rebuildWhatChanged()
 {
     if (lists->isDataOld)
         updateData();
+    if (lists->areAdditionsOld)
+        updateAdditions();
+    if (lists->areColorsOld)
+        updateColors();
     if (lists->isMeshOld)
         updateMesh();
     if (lists->areNormalsOld)
@@ -249,12 +259,9 @@ void BasePlot::markInputChanged(GeometryInput input)
 {
     if (isGeometryInput(input))
         markDataChanged();
-}
-
-/// What can be picked has no colours.
-void BasePlot::markColorsChanged()
-{
-    lists->isDataOld = lists->areNormalsOld = true;
+    // A marker may use anything of its plot.
+    if (!additions.isEmpty())
+        lists->markAdditions();
 }
 
 void BasePlot::warnWithoutGradient()
@@ -303,22 +310,45 @@ void BasePlot::updateData()
         return;
     makeCurrent();
     lists->isDataOld = false;
-    lists->context = context();
-    removePreview();
-    glMatrixMode(GL_MODELVIEW);
-    const GLMode depthTest(GL_DEPTH_TEST, true, false);
-    const GLMode lineSmooth(GL_LINE_SMOOTH, true, false);
+    const CompileScope compiling;
     calculateHull();
     // An empty container has no spacing: a plot without data keeps its radius and has nothing to save.
     if (data && !data->isEmpty())
         settings->getCylinder().setRadius(0.5 * std::min(data->getStepX(), data->getStepY()));
-    lists->drawing.isMeshApart = false;
-    lists->drawing.mesh.reserve();
-    lists->drawing.data.compile([this] {
-        createAdditions();
-        createData();
-    });
+    updateAdditions();
+    updateColors();
     updateMesh();
+}
+
+/// With the context of the lists.
+void BasePlot::updateAdditions()
+{
+    lists->areAdditionsOld = false;
+    if (!isValid())
+        return;
+    makeCurrent();
+    lists->context = context();
+    removePreview();
+    const CompileScope compiling;
+    lists->drawing.additions.compile([this] { createAdditions(); });
+}
+
+/// The list of the data by itself.
+void BasePlot::updateColors()
+{
+    lists->areColorsOld = false;
+    if (!isValid())
+        return;
+    makeCurrent();
+    lists->context = context();
+    removePreview();
+    const CompileScope compiling;
+    PlotLists::Drawing& drawing = lists->drawing;
+    const bool hadMesh = drawing.isMeshApart;
+    drawing.isMeshApart = false;
+    drawing.mesh.reserve();
+    drawing.data.compile([this] { createData(); });
+    lists->isMeshOld = lists->isMeshOld || drawing.isMeshApart != hadMesh;
 }
 
 void BasePlot::sendMesh()
@@ -362,6 +392,7 @@ void BasePlot::removeDataList()
         makeCurrent();
     removePreview();
     lists->drawing.data.remove();
+    lists->drawing.additions.remove();
     lists->drawing.mesh.remove();
     lists->drawing.isMeshApart = false;
 }

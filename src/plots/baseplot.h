@@ -345,13 +345,12 @@ protected:
     /// Adds the styles of the subclass with addStyleAction(). The constructor of each subclass calls this,
     /// createPlotStyleToolBar() and createContextMenu(), in that order.
     virtual void createPlotStyleActions() = 0;
-    /// Draws what the subclass keeps out of the display lists, behind them; here nothing. The state is put
-    /// back afterwards.
+    /// Draws behind the lists what the subclass keeps out of them; here nothing. The state is put back.
     virtual void drawArrays();
-    /// Sends the mesh lines, for a createData() that calls sendMesh(); here nothing.
+    /// Sends the mesh lines, not in colours of the data, for a createData() with sendMesh(); here nothing.
     virtual void createMesh();
-    /// Whether what is sent in the plot's state depends on a value, whose change compiles it again. True here;
-    /// a subclass that knows better saves time, one that sends more than its base says so.
+    /// Whether the data sent in the plot's state depend on a value, whose change compiles them again. True
+    /// here; a subclass that knows better saves time, one that sends more than its base says so.
     virtual bool isGeometryInput(GeometryInput input) const;
     /// By what the node step can be multiplied for a preview so that the data are still recognised; 1, here,
     /// for no preview.
@@ -464,6 +463,8 @@ private:
 
     void createActions();
     void rebuildWhatChanged();
+    void updateAdditions();
+    void updateColors();
     void updateMesh();
     void preparePreview();
     void removePreview();
@@ -474,7 +475,6 @@ private:
     void drawMarks();
     void markMeshChanged(GeometryInput input);
     void markInputChanged(GeometryInput input);
-    void markColorsChanged();
     void compileSelection();
     void highlightPick(const SelectedObjectsInfo& info);
     void warnWithoutGradient();

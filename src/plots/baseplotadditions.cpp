@@ -3,6 +3,7 @@
 #include "plots/addition.h"
 #include "plots/baseplot.h"
 #include "plots/markers.h"
+#include "plots/plotlists.h"
 #include "plots/plotparts.h"
 
 #include <QSettings>
@@ -15,7 +16,7 @@ Addition* BasePlot::addAddition(Addition& addition)
 {
     if (!additions.contains(&addition)) {
         additions.append(addition.clone());
-        markDataChanged();
+        lists->markAdditions();
     }
     return additions.last();
 }
@@ -26,7 +27,7 @@ bool BasePlot::removeAddition(Addition* addition)
         return false;
     parts->addedMarkers.remove(addition);
     delete addition;
-    markDataChanged();
+    lists->markAdditions();
     return true;
 }
 
@@ -79,7 +80,7 @@ bool BasePlot::setMarkers(const QVariantList& markers)
     additions = wanted;
     if (getMarkers() == before)
         return false;
-    markDataChanged();
+    lists->markAdditions();
     emit additionsChanged();
     return true;
 }

@@ -61,7 +61,8 @@ bool BasePlot::beginPicture(double strokeScale, bool tellStrokes, bool kept)
     parts->pictureTarget->strokeScale = strokeScale;
     parts->pictureTarget->tellStrokes = tellStrokes;
     lists->pictureContext = context();
-    const bool sameStrokes = isZero(strokeScale, 1.0) || !isGeometryInput(StrokeScaleInput);
+    const bool sameStrokes =
+        isZero(strokeScale, 1.0) || (additions.isEmpty() && !isGeometryInput(StrokeScaleInput));
     lists->isPictureApart = kept || tellStrokes || !sameStrokes;
     if (lists->isPictureApart) {
         const DrawTargetScope target(*parts->pictureTarget);

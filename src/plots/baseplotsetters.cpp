@@ -335,7 +335,7 @@ void BasePlot::setDataColor(DataColor* coloring)
     currentGradient = dataColor ? dataColor->getGradient() : QGradient();
     legend->setGradient(currentGradient);
     parts->hasWarnedOfGradient = false;
-    markColorsChanged();
+    lists->markColors();
     // Without colours there is nothing to pick.
     lists->isSelectionOld = lists->isSelectionOld || drawable != canDrawData();
 }
@@ -360,7 +360,7 @@ void BasePlot::setGradientRange(const Pair<double>& range)
     gradientRange = range;
     updateLegend();
     if (changed)
-        markColorsChanged();
+        lists->markColors();
 }
 
 bool BasePlot::setPlotStyle(int style)

@@ -6,14 +6,14 @@ namespace Zel3D {
 
 void PlotLists::Drawing::remove()
 {
-    for (DisplayList* list : {&normals, &data, &mesh})
+    for (DisplayList* list : {&normals, &additions, &data, &mesh})
         list->remove();
     isMeshApart = false;
 }
 
 void PlotLists::Drawing::forget()
 {
-    for (DisplayList* list : {&normals, &data, &mesh})
+    for (DisplayList* list : {&normals, &additions, &data, &mesh})
         list->forget();
     isMeshApart = false;
 }

@@ -13,7 +13,8 @@ struct PlotLists
     struct Drawing
     {
         DisplayList normals;
-        DisplayList data; ///< the additions and the data
+        DisplayList additions; ///< drawn before the data
+        DisplayList data;
         DisplayList mesh; ///< called from within the list of the data, so that it can be compiled alone
         bool isMeshApart = false; ///< whether the list of the data calls that of the mesh
 
@@ -30,10 +31,16 @@ struct PlotLists
     const QGLContext* pictureContext = nullptr;
     bool isPictureApart = false; ///< whether a picture has lists of its own
     bool areExchanged = false;   ///< while those of a picture or a preview stand in the window's place
-    bool isDataOld = false;
+    bool isDataOld = false;      ///< and all that goes with the data
+    bool areColorsOld = false;   ///< of the data alone
+    bool areAdditionsOld = false;
     bool isMeshOld = false;
     bool areNormalsOld = false;
     bool isSelectionOld = true;
+
+    /// What can be picked has no colours.
+    void markColors() { areColorsOld = areAdditionsOld = areNormalsOld = true; }
+    void markAdditions() { areAdditionsOld = isSelectionOld = true; }
 };
 
 /// Puts other lists in the place of the window's for a scope.

@@ -106,7 +106,7 @@ bool SHPlot::isGeometryInput(GeometryInput input) const
 {
     const int style = getSettings().getStyle();
     // A marker may use anything of its plot.
-    if (!getAdditions().isEmpty() || style == CustomMarkers)
+    if (style == CustomMarkers)
         return true;
     if (input == StrokeScaleInput && style == Histogram)
         return getSettings().getNormals().isVisible() || getSettings().getCylinder().isFrameVisible();

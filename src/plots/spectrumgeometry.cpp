@@ -153,7 +153,7 @@ bool Spectrum::isGeometryInput(GeometryInput input) const
 {
     const int style = getSettings().getStyle();
     // A marker may use anything of its plot.
-    if (!getAdditions().isEmpty() || style == CustomMarkers)
+    if (style == CustomMarkers)
         return true;
     if (input == StrokeScaleInput)
         return style != NoPlot;

@@ -48,11 +48,12 @@ private:
 };
 
 /// Black to (200, 100, 50): over the heights 0 to 10 a height of 5 is (100, 50, 25).
-inline QLinearGradient ramp()
+inline QLinearGradient ramp(const QColor& lowest = QColor(0, 0, 0),
+                            const QColor& highest = QColor(200, 100, 50))
 {
     QLinearGradient gradient;
-    gradient.setColorAt(0.0, QColor(0, 0, 0));
-    gradient.setColorAt(1.0, QColor(200, 100, 50));
+    gradient.setColorAt(0.0, lowest);
+    gradient.setColorAt(1.0, highest);
     return gradient;
 }
 

@@ -431,10 +431,7 @@ void TestAdditions::opaqueMarkersAreNotBlended()
     QFETCH(QColor, lowest);
     QFETCH(bool, blended);
     Plot own;
-    QLinearGradient gradient;
-    gradient.setColorAt(0.0, lowest);
-    gradient.setColorAt(1.0, Qt::red);
-    own.setGradient("tested", gradient);
+    own.setGradient("tested", ramp(lowest, Qt::red));
     own.setPlotStyle(0);
     own.addAddition(*marker);
     QVERIFY(Heights(2, 2, [](int i, int) { return 10.0 * i; }).into(own));

@@ -50,14 +50,14 @@ QStringList calls(Plot& plot)
     return recorder.calls();
 }
 
-/// What the list compiled first sends when it is called; in the place of a list that it calls what that
-/// sends.
-QStringList firstList(const QStringList& all)
+/// What the list of the data, compiled after that of the additions, sends when it is called; in the place of
+/// a list that it calls what that sends.
+QStringList dataList(const QStringList& all)
 {
     const auto contents = [&all](int start) {
         return all.mid(start, all.indexOf("glEndList()", start) - start);
     };
-    QStringList list = contents(all.indexOf(QRegularExpression("glNewList.*")));
+    QStringList list = contents(all.indexOf(QRegularExpression("glNewList.*"), all.indexOf("glEndList()")));
     const QRegularExpression calling("^glCallList\\((\\d+)\\)$");
     for (int i = list.indexOf(calling); i >= 0; i = list.indexOf(calling)) {
         const QString name = calling.match(list.takeAt(i)).captured(1);
@@ -338,7 +338,7 @@ void TestSHPlot::stateInTheList()
     plot.makeCurrent();
     glBlendFunc(GL_ONE, GL_DST_ALPHA);
     glLineWidth(4.0F);
-    const QStringList list = firstList(calls(plot));
+    const QStringList list = dataList(calls(plot));
     const auto at = [&](const QString& call) { return list.indexOf(call); };
     const int begin = list.indexOf(QRegularExpression("glBegin.*"));
     const int end = list.lastIndexOf(QRegularExpression("glBegin.*"));
@@ -385,15 +385,12 @@ void TestSHPlot::opaqueSurfacesAreNotBlended()
     QFETCH(bool, cells);
     QFETCH(bool, blended);
     Plot plot;
-    QLinearGradient gradient;
-    gradient.setColorAt(0.0, lowest);
-    gradient.setColorAt(1.0, Qt::red);
-    plot.setGradient("tested", gradient);
+    plot.setGradient("tested", ramp(lowest, Qt::red));
     plot.setBackgroundColor(background);
     plot.setPlotStyle(style);
     QVERIFY(harness::show(plot, 80, 80));
     QVERIFY(cells ? plot.loadFromData(roof, roofCells, 1.0, 1.0) : Heights(4, 3, plane).into(plot));
-    const QStringList list = firstList(calls(plot));
+    const QStringList list = dataList(calls(plot));
     const int off = list.indexOf(line("glDisable", {GL_BLEND}));
     QCOMPARE(off < 0, blended);
     if (blended)

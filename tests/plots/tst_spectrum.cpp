@@ -452,8 +452,9 @@ void TestSpectrum::stateInTheList()
     GLRecorder recorder;
     plot.updateData();
     const QStringList& all = recorder.calls();
-    const int start = all.indexOf(QRegularExpression("glNewList.*"));
-    const QStringList list = all.mid(start, all.indexOf("glEndList()") - start);
+    const int additionsEnd = all.indexOf("glEndList()");
+    const int start = all.indexOf(QRegularExpression("glNewList.*"), additionsEnd);
+    const QStringList list = all.mid(start, all.indexOf("glEndList()", start) - start);
     const auto first = [&](const QString& call) { return list.indexOf(call); };
     const auto call = [](const char* name, int a, int b = -1) {
         return QString("%1(%2%3)").arg(name).arg(a).arg(b < 0 ? QString() : QString(",%1").arg(b));
