@@ -3,6 +3,7 @@
 #include "harness/harness.h"
 #include "plotfixture.h"
 #include "plots/look.h"
+#include "plots/spectrum.h"
 
 #include <QDockWidget>
 #include <QFile>
@@ -26,21 +27,62 @@ using namespace fixture;
 namespace {
 
 const QColor red(255, 0, 0);
-constexpr int filled = 4;
 
-/// A flat sheet in one colour that fills the middle of the window.
-std::unique_ptr<Plot> sheet(const QColor& color, const QGLWidget* share = nullptr)
+double sheetHeight(int column, int)
 {
-    auto plot = std::make_unique<Plot>("plot", share);
+    return column == 1 ? 0.1 : 0.0;
+}
+
+/// What the tests look for: a flat sheet seen from above, or areas of spectra seen from the front.
+void load(BasePlot& plot, int size = 3)
+{
+    if (auto* surface = qobject_cast<SHPlot*>(&plot)) {
+        Heights(size, size, sheetHeight).into(*surface);
+        return;
+    }
+    std::map<double, double> heights;
+    for (int i = 0; i < size; ++i)
+        heights[i] = 1.0;
+    qobject_cast<Spectrum*>(&plot)->loadFromData({{0.0, heights}, {1.0, heights}}, YAxis);
+}
+
+int filledStyle(const BasePlot& plot)
+{
+    return qobject_cast<const SHPlot*>(&plot) ? 4 : 3;
+}
+
+void faceThePerson(BasePlot& plot)
+{
+    plot.setPlotStyle(filledStyle(plot));
+    plot.setRotation({qobject_cast<SHPlot*>(&plot) ? 90.0 : 0.0, 0.0, 0.0});
+    plot.setLighting(false);
+}
+
+template <class AnyPlot>
+std::unique_ptr<AnyPlot> prepared(std::unique_ptr<AnyPlot> plot, const QColor& color)
+{
     plot->setGradient("plain", plain(color));
-    plot->setPlotStyle(filled);
-    plot->setRotation({90.0, 0.0, 0.0});
-    plot->setLighting(false);
-    Heights(3, 3, [](int column, int) { return column == 1 ? 0.1 : 0.0; }).into(*plot);
+    faceThePerson(*plot);
+    load(*plot);
     return plot;
 }
 
-bool shows(Plot& plot, const QColor& color)
+/// A plot in one colour that fills the middle of the window.
+std::unique_ptr<Plot> sheet(const QColor& color, const QGLWidget* share = nullptr)
+{
+    return prepared(std::make_unique<Plot>("plot", share), color);
+}
+
+std::unique_ptr<BasePlot> redPlot(bool ofSpectra)
+{
+    if (!ofSpectra)
+        return sheet(red);
+    auto plot = prepared(std::make_unique<Spectrum>("plot", organization, application), red);
+    plot->getLegend().setVisible(false);
+    return plot;
+}
+
+bool shows(BasePlot& plot, const QColor& color)
 {
     return pixels(harness::grab(plot), color) > 200;
 }
@@ -87,9 +129,9 @@ QVariant argument(int type, int which)
 }
 
 /// Calls the slots of the plot that take one argument or none. Returns how many.
-int callEverySlot(Plot& plot, int which)
+int callEverySlot(BasePlot& plot, int which)
 {
-    const QMetaObject& meta = SHPlot::staticMetaObject;
+    const QMetaObject& meta = *plot.metaObject();
     const double number = numbers[which];
     plot.slotSetRotation({number, numbers[5 - which], 1.0});
     plot.slotSetScale({number, 1.0, numbers[5 - which]});
@@ -117,22 +159,54 @@ int callEverySlot(Plot& plot, int which)
 }
 
 /// Takes back what the slots may have set. Setters, because slots wait for the first show.
-void calm(Plot& plot)
+void calm(BasePlot& plot)
 {
     plot.slotDefault();
     plot.setAutoScaling(true);
     plot.setResolution(1);
-    plot.setPlotStyle(filled);
-    plot.setRotation({90.0, 0.0, 0.0});
-    plot.setLighting(false);
+    faceThePerson(plot);
     plot.setShadingStyle(SmoothShading);
     plot.setProjectionType(Orthogonal);
     plot.setBackgroundColor(Qt::white);
     plot.slotSetTitle(QString());
 }
 
+/// What a person does to a plot.
+QVector<std::function<void(BasePlot&)>> handlings()
+{
+    const auto drag = [](BasePlot& plot) {
+        QTest::mousePress(&plot, Qt::LeftButton, Qt::NoModifier, QPoint(40, 40));
+        for (int i = 1; i < 4; ++i) {
+            const QPointF at(40.0 + 9.0 * i, 40.0 + 7.0 * i);
+            QMouseEvent move(QEvent::MouseMove, at, plot.mapToGlobal(at.toPoint()), Qt::NoButton,
+                             Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(&plot, &move);
+        }
+        QTest::mouseRelease(&plot, Qt::LeftButton, Qt::NoModifier, QPoint(67, 61));
+    };
+    return {drag,
+            [](BasePlot& plot) {
+                QWheelEvent turn(QPointF(40, 40), plot.mapToGlobal(QPoint(40, 40)), QPoint(), QPoint(0, 120),
+                                 Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+                QCoreApplication::sendEvent(&plot, &turn);
+            },
+            [](BasePlot& plot) { QTest::keyClick(&plot, Qt::Key_A); },
+            [](BasePlot& plot) {
+                plot.setSelecting(true);
+                QMouseEvent move(QEvent::MouseMove, QPointF(70, 60), plot.mapToGlobal(QPoint(70, 60)),
+                                 Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+                QCoreApplication::sendEvent(&plot, &move);
+            },
+            [drag](BasePlot& plot) {
+                plot.setAutoRotate(true);
+                plot.setDeltaVelocity(0.0);
+                drag(plot);
+                QTest::qWait(120);
+            }};
+}
+
 using Move = std::function<void(Plot&, QMainWindow&)>;
-using Answer = std::function<void(Plot&)>;
+using Answer = std::function<void(BasePlot&)>;
 
 } // namespace
 
@@ -159,7 +233,7 @@ public slots:
     void answerOnce();
 
 private:
-    QPointer<Plot> answering;
+    QPointer<BasePlot> answering;
     Answer answer;
     int answers = 0;
     bool answeringNow = false;
@@ -288,27 +362,31 @@ void TestHosts::callsFromInsideSignals_data()
 {
     QTest::addColumn<Answer>("reply");
     QTest::addColumn<bool>("stays");
-    QTest::newRow("load") << Answer([](Plot& plot) {
-        Heights(4, 4, [](int column, int) { return column == 1 ? 0.1 : 0.0; }).into(plot);
-    }) << true;
-    QTest::newRow("set") << Answer([](Plot& plot) {
+    QTest::addColumn<bool>("ofSpectra");
+    const auto row = [](const char* name, bool stays, const Answer& reply) {
+        QTest::newRow(qPrintable(QString("surface: %1").arg(name))) << reply << stays << false;
+        QTest::newRow(qPrintable(QString("spectra: %1").arg(name))) << reply << stays << true;
+    };
+    row("load", true, [](BasePlot& plot) { load(plot, 4); });
+    row("set", true, [](BasePlot& plot) {
+        const int filled = filledStyle(plot);
         plot.slotSetPlotStyle(plot.getSettings().getStyle() == filled ? filled + 1 : filled);
         plot.slotSetZoom(plot.getZoom() * 1.01);
-    }) << true;
-    QTest::newRow("clear and load") << Answer([](Plot& plot) {
+    });
+    row("clear and load", true, [](BasePlot& plot) {
         plot.clearData();
-        Heights(3, 3, [](int column, int) { return column == 1 ? 0.1 : 0.0; }).into(plot);
-    }) << true;
-    QTest::newRow("hide and show") << Answer([](Plot& plot) {
+        load(plot);
+    });
+    row("hide and show", true, [](BasePlot& plot) {
         plot.hide();
         plot.show();
-    }) << true;
-    QTest::newRow("load the settings") << Answer([](Plot& plot) { plot.slotLoadSettings(); }) << true;
-    QTest::newRow("close and delete") << Answer([](Plot& plot) {
+    });
+    row("load the settings", true, [](BasePlot& plot) { plot.slotLoadSettings(); });
+    row("close and delete", false, [](BasePlot& plot) {
         plot.setAttribute(Qt::WA_DeleteOnClose);
         plot.close();
-    }) << false;
-    QTest::newRow("delete later") << Answer([](Plot& plot) { plot.deleteLater(); }) << false;
+    });
+    row("delete later", false, [](BasePlot& plot) { plot.deleteLater(); });
 }
 
 // Whatever is being told, the plot goes on, or goes when the event loop comes round.
@@ -316,7 +394,8 @@ void TestHosts::callsFromInsideSignals()
 {
     QFETCH(Answer, reply);
     QFETCH(bool, stays);
-    const QPointer<Plot> plot = sheet(red).release();
+    QFETCH(bool, ofSpectra);
+    const QPointer<BasePlot> plot = redPlot(ofSpectra).release();
     plot->slotSaveSettings();
     QVERIFY(harness::show(*plot, 150, 120));
     answering = plot;
@@ -331,14 +410,21 @@ void TestHosts::callsFromInsideSignals()
     const harness::Messages quiet;
     for (int which = 0; which < 6; ++which)
         callEverySlot(*plot, which);
-    QTest::keyClick(plot, Qt::Key_A);
-    QTest::mouseClick(plot, Qt::LeftButton);
     QVERIFY2(answers > 40, qPrintable(QString::number(answers)));
+    // Every kind of handling tells of something, unless the plot waits for its end.
+    calm(*plot);
+    for (const Answer& handling : handlings()) {
+        answers = 0;
+        handling(*plot);
+        QVERIFY(answers > 0 || !stays);
+    }
     answering = nullptr;
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCOMPARE(!plot.isNull(), stays);
     if (plot) {
+        plot->setAutoRotate(false);
         calm(*plot);
+        load(*plot);
         QVERIFY(shows(*plot, red));
         delete plot;
     }
@@ -356,13 +442,18 @@ void TestHosts::answerOnce()
 void TestHosts::everySlotAtEveryTime_data()
 {
     QTest::addColumn<Answer>("prepare");
-    QTest::newRow("before the first show") << Answer([](Plot&) {});
-    QTest::newRow("shown") << Answer([](Plot& plot) { harness::show(plot, 100, 80); });
-    QTest::newRow("hidden again") << Answer([](Plot& plot) {
+    QTest::addColumn<bool>("ofSpectra");
+    const auto row = [](const char* name, const Answer& prepare) {
+        QTest::newRow(qPrintable(QString("surface: %1").arg(name))) << prepare << false;
+        QTest::newRow(qPrintable(QString("spectra: %1").arg(name))) << prepare << true;
+    };
+    row("before the first show", [](BasePlot&) {});
+    row("shown", [](BasePlot& plot) { harness::show(plot, 100, 80); });
+    row("hidden again", [](BasePlot& plot) {
         harness::show(plot, 100, 80);
         plot.hide();
     });
-    QTest::newRow("without data") << Answer([](Plot& plot) {
+    row("without data", [](BasePlot& plot) {
         harness::show(plot, 100, 80);
         plot.clearData();
     });
@@ -372,7 +463,8 @@ void TestHosts::everySlotAtEveryTime_data()
 void TestHosts::everySlotAtEveryTime()
 {
     QFETCH(Answer, prepare);
-    const std::unique_ptr<Plot> plot = sheet(red);
+    QFETCH(bool, ofSpectra);
+    const std::unique_ptr<BasePlot> plot = redPlot(ofSpectra);
     plot->slotSaveSettings();
     prepare(*plot);
     const harness::Messages quiet;
@@ -384,7 +476,7 @@ void TestHosts::everySlotAtEveryTime()
     }
     QVERIFY2(calls > 150, qPrintable(QString::number(calls)));
     calm(*plot);
-    Heights(3, 3, [](int column, int) { return column == 1 ? 0.1 : 0.0; }).into(*plot);
+    load(*plot);
     QVERIFY(harness::show(*plot, 150, 120));
     QVERIFY(shows(*plot, red));
 }
