@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>AboutBox</name>
+    <message>
+        <source>Qt %1</source>
+        <translation>Qt %1</translation>
+    </message>
+    <message>
+        <source>About VORAN Viewer</source>
+        <translation>Über VORAN Viewer</translation>
+    </message>
+    <message>
+        <source>VORAN Viewer %1</source>
+        <translation>VORAN Viewer %1</translation>
+    </message>
+    <message>
+        <source>Surfaces, meshes and spectra in three dimensions, to turn, zoom and pick.</source>
+        <translation>Flächen, Netze und Spektren in drei Dimensionen: drehen, zoomen und Werte ablesen.</translation>
+    </message>
+    <message>
+        <source>OpenGL %1 by %2</source>
+        <translation>OpenGL %1 von %2</translation>
+    </message>
+</context>
+<context>
     <name>ClipboardTable</name>
     <message>
         <source>The table cannot be read: row %1, column %2: found %3, expected %4.</source>
@@ -1217,6 +1240,10 @@
         <source>&quot;%1&quot; cannot be drawn.</source>
         <translation>„%1“ kann nicht gezeichnet werden.</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; has no values above zero to show logarithmically: nothing can be drawn.</source>
+        <translation>„%1“ hat keine Werte über null, die sich logarithmisch zeigen lassen: Es kann nichts gezeichnet werden.</translation>
+    </message>
 </context>
 <context>
     <name>PlotTabs</name>
@@ -2040,6 +2067,14 @@
     <message>
         <source>Turn, zoom and shift all plots together</source>
         <translation>Alle Diagramme gemeinsam drehen, zoomen und verschieben</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;About VORAN Viewer...</source>
+        <translation>&amp;Über VORAN Viewer...</translation>
     </message>
 </context>
 <context>

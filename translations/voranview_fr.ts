@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>AboutBox</name>
+    <message>
+        <source>Qt %1</source>
+        <translation>Qt %1</translation>
+    </message>
+    <message>
+        <source>About VORAN Viewer</source>
+        <translation>À propos de VORAN Viewer</translation>
+    </message>
+    <message>
+        <source>VORAN Viewer %1</source>
+        <translation>VORAN Viewer %1</translation>
+    </message>
+    <message>
+        <source>Surfaces, meshes and spectra in three dimensions, to turn, zoom and pick.</source>
+        <translation>Surfaces, maillages et spectres en trois dimensions, à tourner, agrandir et pointer.</translation>
+    </message>
+    <message>
+        <source>OpenGL %1 by %2</source>
+        <translation>OpenGL %1 par %2</translation>
+    </message>
+</context>
+<context>
     <name>ClipboardTable</name>
     <message>
         <source>The table cannot be read: row %1, column %2: found %3, expected %4.</source>
@@ -1217,6 +1240,10 @@
         <source>&quot;%1&quot; cannot be drawn.</source>
         <translation>«&#xa0;%1&#xa0;» ne peut pas être dessiné.</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; has no values above zero to show logarithmically: nothing can be drawn.</source>
+        <translation>«&#xa0;%1&#xa0;» n’a aucune valeur supérieure à zéro à montrer en échelle logarithmique&#xa0;: rien ne peut être dessiné.</translation>
+    </message>
 </context>
 <context>
     <name>PlotTabs</name>
@@ -2040,6 +2067,14 @@
     <message>
         <source>Turn, zoom and shift all plots together</source>
         <translation>Tourner, zoomer et déplacer tous les graphiques ensemble</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Aid&amp;e</translation>
+    </message>
+    <message>
+        <source>&amp;About VORAN Viewer...</source>
+        <translation>À &amp;propos de VORAN Viewer...</translation>
     </message>
 </context>
 <context>

@@ -1,8 +1,24 @@
 #include "plotsource.h"
 
+#include "core/data.h"
 #include "plots/baseplot.h"
 
 #include <QCoreApplication>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+/// Whether a plot has a point with all its coordinates.
+bool hasPoints(const Zel3D::BasePlot& plot)
+{
+    const Zel3D::Data* data = plot.getData();
+    return data && !data->isEmpty() && std::isfinite(data->getMinimum().z()) &&
+           data->getMinimum().z() <= data->getMaximum().z();
+}
+
+} // namespace
 
 std::unique_ptr<PlotView> PlotSource::open(const LoadProgress& progress)
 {
@@ -16,6 +32,12 @@ std::unique_ptr<PlotView> PlotSource::open(const LoadProgress& progress)
         m_error.clear();
         return nullptr;
     }
+    const auto isSet = [](bool on) { return on; };
+    if (view && std::any_of(m_logarithmic.begin(), m_logarithmic.end(), isSet) && !hasPoints(view->plot()))
+        return fail(QCoreApplication::translate(
+                        "PlotSource",
+                        "\"%1\" has no values above zero to show logarithmically: nothing can be drawn.")
+                        .arg(m_name));
     if (view)
         view->plot().slotSetTitle(m_name);
     return view;

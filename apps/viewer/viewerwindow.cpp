@@ -1,5 +1,6 @@
 #include "viewerwindow.h"
 
+#include "aboutbox.h"
 #include "dataactions.h"
 #include "filesource.h"
 #include "formuladialog.h"
@@ -106,6 +107,7 @@ ViewerWindow::ViewerWindow()
     m_editMenu->addSeparator();
     m_editMenu->addAction(tr("Pr&eferences..."), this, &ViewerWindow::editPreferences)
         ->setStatusTip(tr("Language, look of new plots, size of grids"));
+    createHelpMenu();
     restore();
     showPage(nullptr);
 }
@@ -245,6 +247,13 @@ void ViewerWindow::createViewMenu()
                               [this](const QStringList& paths) { openFiles(paths); }});
     m_viewMenu->addSeparator();
     m_viewMenu->addAction(m_bindings->action());
+}
+
+void ViewerWindow::createHelpMenu()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&Help"));
+    menu->addAction(tr("&About VORAN Viewer..."), this,
+                    [this] { AboutBox::open(*this, m_page ? &m_page->view().plot() : nullptr); });
 }
 
 void ViewerWindow::showFullScreen(bool on)

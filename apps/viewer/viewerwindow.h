@@ -63,6 +63,7 @@ private:
     QMenu* createNewMenu();
     void createEditMenu();
     void createViewMenu();
+    void createHelpMenu();
     void createTabs();
     void addPage(std::unique_ptr<PlotPage> page);
     void showPage(PlotPage* page);

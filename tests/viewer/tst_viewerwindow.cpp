@@ -92,6 +92,7 @@ private slots:
     void turntableWritesItsFrames();
     void copyPutsThePictureOnTheClipboard();
     void windowComesBackAsItWasLeft();
+    void aboutSaysWhatRuns();
 
 private:
     QAction& action(const QString& text) const;
@@ -357,6 +358,24 @@ void TestViewerWindow::windowComesBackAsItWasLeft()
     QVERIFY(!plotOf(again).getToolBar(Zel3D::ViewsToolBar)->isVisible());
     QVERIFY(!again.statusBar()->isVisible());
     QCOMPARE(again.toolBarArea(plotOf(again).getToolBar(Zel3D::PlotStyleToolBar)), Qt::LeftToolBarArea);
+}
+
+void TestViewerWindow::aboutSaysWhatRuns()
+{
+    const auto said = [this] {
+        action("About VORAN Viewer...").trigger();
+        auto* box = m_window->findChild<QMessageBox*>("about");
+        const QString text = box ? box->text() + box->informativeText() : QString();
+        delete box;
+        return text;
+    };
+    const QString withPlot = said();
+    for (const QString& part :
+         {QCoreApplication::applicationVersion(), QString(qVersion()), QString("OpenGL ")})
+        QVERIFY2(withPlot.contains(part), qPrintable(withPlot));
+    m_window->closePlot();
+    const QString without = said();
+    QVERIFY(without.contains(qVersion()) && !without.contains("OpenGL"));
 }
 
 int main(int argc, char* argv[])

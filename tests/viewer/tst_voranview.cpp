@@ -85,6 +85,7 @@ private slots:
     void wordsNeedNoDisplay();
     void refusalsAreOneSentence_data();
     void refusalsAreOneSentence();
+    void nothingAboveZeroIsNoPicture();
     void wordsAreInTheLanguageOfTheEnvironment();
     void debugMessagesAreForThoseWhoAsk();
     void pictureHasTheSizeAndTheRelief_data();
@@ -222,6 +223,22 @@ void TestVoranview::refusalsAreOneSentence()
              qPrintable(outcome.errors));
     QCOMPARE(outcome.output, QString());
     QVERIFY(QDir(m_folder.path()).isEmpty());
+}
+
+// After the plot's own word on how many points are missing.
+void TestVoranview::nothingAboveZeroIsNoPicture()
+{
+    const QString path = m_folder.filePath("empty.png");
+    const auto shown = [&path](const QString& formula) {
+        return runViewer({"--function", formula, "--log", "z", "--mesh", "20", "--png", path},
+                         Screen::Virtual);
+    };
+    const Outcome none = shown("-1-x*x");
+    QCOMPARE(none.status, 1);
+    QVERIFY2(none.errors.contains("voranview: \"-1-x*x\" has no values above zero"), qPrintable(none.errors));
+    QVERIFY(!QFile::exists(path));
+    QCOMPARE(shown("x").status, 0);
+    QVERIFY(QFile::remove(path));
 }
 
 void TestVoranview::everyKindMakesAPicture_data()
