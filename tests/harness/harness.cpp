@@ -4,9 +4,11 @@
 #include <QFont>
 #include <QGLWidget>
 #include <QLocale>
+#include <QMessageBox>
 #include <QSettings>
 #include <QStyleFactory>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QtTest>
 
 #include <cstdio>
@@ -123,6 +125,22 @@ bool show(QWidget& widget, int width, int height)
         return false;
     QCoreApplication::processEvents();
     return true;
+}
+
+QString boxText(const std::function<void()>& act)
+{
+    QString text;
+    QTimer looking;
+    // Boxes of other kinds may come before.
+    QObject::connect(&looking, &QTimer::timeout, [&text] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            text = box->text();
+            box->accept();
+        }
+    });
+    looking.start(10);
+    act();
+    return text;
 }
 
 QImage grab(QGLWidget& widget)

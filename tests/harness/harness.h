@@ -30,6 +30,10 @@ void clearStore();
 /// Shows a widget at a size and waits until it is on the screen and painted. False when that fails.
 bool show(QWidget& widget, int width, int height);
 
+/// Does something that opens a message box, which it accepts whenever it comes up, and returns the words of
+/// the box; empty where none came.
+QString boxText(const std::function<void()>& act);
+
 /// What a GL widget shows now, painted anew.
 QImage grab(QGLWidget& widget);
 

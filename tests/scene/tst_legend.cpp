@@ -474,6 +474,8 @@ void TestLegend::leavesTheTitleItsRoom()
         title.getSettings().setText("Title");
         Legend legend;
         prepare(legend, Legend::Top);
+        // Its own height and its distance from the edge, no more.
+        QVERIFY(title.getReservedTop(window) < 0.06 * window.height() + 30.0);
         legend.setReservedTop(title.getReservedTop(window));
         draw(legend);
         canvas.paint = [&] { title.draw(); };

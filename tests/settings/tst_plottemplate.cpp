@@ -7,9 +7,7 @@
 #include "settingsfixture.h"
 
 #include <QAction>
-#include <QMessageBox>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <QUndoStack>
 
 #include <csignal>
@@ -86,21 +84,6 @@ QByteArray readFile(const QString& path)
 }
 
 const QByteArray head = "[template]\ntype=plot appearance\nversion=1\n";
-
-/// The text of the message box that an action opens; the box is closed.
-template <class Act>
-QString boxText(const Act& act)
-{
-    QString text;
-    QTimer::singleShot(0, [&text] {
-        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-            text = box->text();
-            box->accept();
-        }
-    });
-    act();
-    return text;
-}
 
 } // namespace
 
@@ -462,11 +445,11 @@ void TestPlotTemplate::boxNamesWhatWasLeftOut()
     window.show();
     Zel3D::TemplateActions actions(plot.get(), &window);
     writeFile(path(), head + "[style]\nmeshWidth=<b>wide</b>\nmeshX=false\n");
-    const QString text = boxText([&] { QVERIFY(actions.applyFrom(path())); });
+    const QString text = harness::boxText([&] { QVERIFY(actions.applyFrom(path())); });
     QVERIFY2(text.contains("style/meshWidth = <b>wide</b>: "), qPrintable(text));
     writeFile(path(), "nothing");
-    QVERIFY(boxText([&] { QVERIFY(!actions.applyFrom(path())); }).contains("no template"));
-    QVERIFY(boxText([&] {
+    QVERIFY(harness::boxText([&] { QVERIFY(!actions.applyFrom(path())); }).contains("no template"));
+    QVERIFY(harness::boxText([&] {
                 QVERIFY(!actions.saveTo(path("no/where"), everything));
             }).contains("cannot be written"));
 }

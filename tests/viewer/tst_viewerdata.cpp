@@ -24,7 +24,6 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QStatusBar>
@@ -113,16 +112,10 @@ QAction* TestViewerData::action(const QString& text) const
 /// The words of the box that opening a file brings, or empty.
 QString TestViewerData::message(const QString& path)
 {
-    QString text;
-    QTimer::singleShot(0, [&text] {
-        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-            text = box->text();
-            box->accept();
-        }
+    return harness::boxText([&] {
+        m_window->openFile(path);
+        QCoreApplication::processEvents();
     });
-    m_window->openFile(path);
-    QCoreApplication::processEvents();
-    return text;
 }
 
 void TestViewerData::kindsFollowEachOther()

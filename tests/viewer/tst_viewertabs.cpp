@@ -18,7 +18,6 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QMimeData>
 #include <QSplitter>
 #include <QStatusBar>
@@ -70,11 +69,8 @@ private:
     void openThree();
     PlotPage& page(int number) const { return *m_window->tabs().pages().at(number); }
     QStringList titles() const;
-    /// Closes the box that comes up and keeps its words.
-    void answerBox();
 
     std::unique_ptr<ViewerWindow> m_window;
-    QString m_words;
 };
 
 void TestViewerTabs::init()
@@ -123,17 +119,6 @@ QStringList TestViewerTabs::titles() const
     return found;
 }
 
-void TestViewerTabs::answerBox()
-{
-    m_words.clear();
-    QTimer::singleShot(0, this, [this] {
-        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-            m_words = box->text();
-            box->accept();
-        }
-    });
-}
-
 void TestViewerTabs::droppedFilesOpenInTabs()
 {
     m_window->openFile(examples + "bunny.off");
@@ -148,10 +133,9 @@ void TestViewerTabs::droppedFilesOpenInTabs()
     QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(m_window.get(), &enter);
     QVERIFY(enter.isAccepted());
-    answerBox();
     QDropEvent drop(QPointF(50, 50), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(m_window.get(), &drop);
-    QVERIFY2(m_words.contains("missing.asc") && !m_words.contains("bunny"), qPrintable(m_words));
+    const QString words = harness::boxText([&] { QCoreApplication::sendEvent(m_window.get(), &drop); });
+    QVERIFY2(words.contains("missing.asc") && !words.contains("bunny"), qPrintable(words));
     // A file that is open opens anew.
     QCOMPARE(titles(), (QStringList{"bunny.off", "gasoline_nir.csv", "bunny.off (2)"}));
     QCOMPARE(m_window->findChild<QTabBar*>()->tabToolTip(1), examples + "gasoline_nir.csv");

@@ -29,7 +29,6 @@
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QMenu>
-#include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
 #include <QSettings>
@@ -491,17 +490,7 @@ void TestViewerValues::pastedOrDroppedPathOpens()
 
 void TestViewerValues::uselessClipboardSaysSo()
 {
-    const auto words = [this](const QString& text) {
-        QString said;
-        QTimer::singleShot(0, [&said] {
-            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-                said = box->text();
-                box->accept();
-            }
-        });
-        paste(text);
-        return said;
-    };
+    const auto words = [this](const QString& text) { return harness::boxText([&] { paste(text); }); };
     QVERIFY(words(QString()).startsWith("There is no table"));
     QVERIFY(words("Dear Sir\nor Madam").contains("\"Madam\""));
     QVERIFY(m_window->page() == nullptr);

@@ -32,22 +32,6 @@
 
 namespace {
 
-/// The text of the message box that an action opens; the box is closed.
-template <class Act>
-QString boxText(const Act& act)
-{
-    QString text;
-    QTimer::singleShot(0, [&text] {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (box != nullptr) {
-            text = box->text();
-            box->accept();
-        }
-    });
-    act();
-    return text;
-}
-
 ViewerPlot& plotOf(const ViewerWindow& window)
 {
     return dynamic_cast<ViewerPlot&>(window.page()->view());
@@ -161,7 +145,7 @@ void TestViewerWindow::titleAndStatusTellOfTheGrid()
 void TestViewerWindow::failureLeavesThePlot()
 {
     const QImage before = harness::grab(plotOf(*m_window));
-    const QString text = boxText([this] { m_window->openFile("missing.asc"); });
+    const QString text = harness::boxText([this] { m_window->openFile("missing.asc"); });
     QCOMPARE(text, QString("\"missing.asc\" does not exist."));
     QVERIFY(m_window->windowTitle().startsWith("jacksboro_dem.asc"));
     QCOMPARE(harness::grab(plotOf(*m_window)), before);
@@ -269,16 +253,7 @@ void TestViewerWindow::failedPictureSaysWhy()
 {
     QTemporaryDir folder;
     const QString path = folder.filePath("missing/picture.svg");
-    QString text;
-    QTimer box;
-    connect(&box, &QTimer::timeout, [&text] {
-        if (auto* found = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-            text = found->text();
-            found->accept();
-        }
-    });
-    box.start(50);
-    saved(path, {});
+    const QString text = harness::boxText([&] { saved(path, {}); });
     QVERIFY2(text.contains("picture.svg") && text.contains("does not exist"), qPrintable(text));
     QVERIFY(QDir(folder.path()).isEmpty());
 
@@ -286,7 +261,6 @@ void TestViewerWindow::failedPictureSaysWhy()
     QFile kept(folder.filePath("kept.png"));
     QVERIFY(kept.open(QIODevice::WriteOnly) && kept.write("old") == 3);
     kept.close();
-    text.clear();
     saved(kept.fileName(), [](QDialog& dialog) {
         QTimer::singleShot(0, [] {
             auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
