@@ -65,7 +65,7 @@ int SHPlot::getCoarsest() const
     if (getData() != gridData.get() || getSettings().getStyle() == NoPlot)
         return 1;
     const auto shorter = int(std::min(gridData->columns(), gridData->rows()));
-    return std::max(shorter / (previewNodes * std::max(getSettings().getResolution(), 1)), 1);
+    return std::max(shorter / previewNodes / std::max(getSettings().getResolution(), 1), 1);
 }
 
 int SHPlot::markerStep(const Addition& marker) const

@@ -35,8 +35,8 @@ int Spectrum::countPickPoints() const
     if (step < 1 || !getData() || getData() != spectrumData.get())
         return 0;
     int count = 0;
-    for (const auto& spectrum : spectrumData->getSpectrum())
-        count += (int(spectrum.second.size()) + step - 1) / step;
+    for (const auto& [outer, values] : spectrumData->getSpectrum())
+        count += values.empty() ? 0 : 1 + (int(values.size()) - 1) / step;
     return count;
 }
 

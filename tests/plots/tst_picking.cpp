@@ -302,6 +302,8 @@ private slots:
         plot.findObjects(plot.pixelOf(drawn), Qt::NoModifier);
         QVERIFY(!found.valid);
         QCOMPARE(plot.getNumberSelectedData(), 4);
+        plot.setResolution(std::numeric_limits<int>::max());
+        QCOMPARE(plot.getNumberSelectedData(), 2); // the first of each
         plot.setPlotStyle(0);
         QCOMPARE(plot.getNumberSelectedData(), 0);
     }

@@ -349,17 +349,24 @@ void TestSettingsDialog::closesWithItsPlot()
 
 void TestSettingsDialog::oneDialogForAPlot()
 {
-    StyledPlot plot;
-    QVERIFY(harness::show(plot, 200, 200));
-    int open = 0;
-    QTimer::singleShot(100, &plot, [&] {
+    const auto opened = [](BasePlot& plot) {
+        int open = 0;
+        QTimer::singleShot(100, &plot, [&] {
+            plot.slotSettingsDialog();
+            for (const QWidget* widget : QApplication::topLevelWidgets())
+                open += qobject_cast<const PlotSettingsDialog*>(widget) ? 1 : 0;
+            if (PlotSettingsDialog* dialog = PlotSettingsDialog::of(plot))
+                dialog->reject();
+        });
         plot.slotSettingsDialog();
-        for (const QWidget* widget : QApplication::topLevelWidgets())
-            open += qobject_cast<const PlotSettingsDialog*>(widget) ? 1 : 0;
-        PlotSettingsDialog::of(plot)->reject();
-    });
-    plot.slotSettingsDialog();
-    QCOMPARE(open, 1);
+        return open;
+    };
+    StyledPlot surface;
+    QVERIFY(harness::show(surface, 200, 200));
+    QCOMPARE(opened(surface), 1);
+    Spectrum spectra("spectra", organization, application);
+    QVERIFY(harness::show(spectra, 200, 200));
+    QCOMPARE(opened(spectra), 1);
 }
 
 void TestSettingsDialog::searchFinds_data()
