@@ -141,6 +141,7 @@ void BasePlot::drawWithoutTransform()
         parts->preview.drawMark(getBackgroundColor(), ratio);
 }
 
+/// Logical pixels that the legend leaves to the title at the top of a window of a size in pixels.
 double BasePlot::reservedTop(const QSize& window)
 {
     const double depth = title->getReservedTop(window);
@@ -320,15 +321,22 @@ void BasePlot::updateData()
     updateMesh();
 }
 
-/// With the context of the lists.
-void BasePlot::updateAdditions()
+/// Before any of the lists is compiled: makes their context current. False without a usable one.
+bool BasePlot::prepareLists()
 {
-    lists->areAdditionsOld = false;
     if (!isValid())
-        return;
+        return false;
     makeCurrent();
     lists->context = context();
     removePreview();
+    return true;
+}
+
+void BasePlot::updateAdditions()
+{
+    lists->areAdditionsOld = false;
+    if (!prepareLists())
+        return;
     const CompileScope compiling;
     lists->drawing.additions.compile([this] { createAdditions(); });
 }
@@ -337,11 +345,8 @@ void BasePlot::updateAdditions()
 void BasePlot::updateColors()
 {
     lists->areColorsOld = false;
-    if (!isValid())
+    if (!prepareLists())
         return;
-    makeCurrent();
-    lists->context = context();
-    removePreview();
     const CompileScope compiling;
     PlotLists::Drawing& drawing = lists->drawing;
     const bool hadMesh = drawing.isMeshApart;
@@ -357,14 +362,11 @@ void BasePlot::sendMesh()
     lists->drawing.mesh.call();
 }
 
-/// With the context of the lists.
 void BasePlot::updateMesh()
 {
     lists->isMeshOld = false;
-    if (!isValid())
+    if (!prepareLists())
         return;
-    makeCurrent();
-    removePreview();
     if (lists->drawing.isMeshApart)
         lists->drawing.mesh.compile([this] { createMesh(); });
     else
@@ -373,15 +375,12 @@ void BasePlot::updateMesh()
 
 void BasePlot::updateNormals()
 {
-    if (!isValid())
+    if (!prepareLists())
         return;
-    makeCurrent();
     lists->areNormalsOld = false;
-    removePreview();
     lists->drawing.normals.remove();
     if (!settings->getNormals().isVisible() || !data)
         return;
-    lists->context = context();
     glMatrixMode(GL_MODELVIEW);
     lists->drawing.normals.compile([this] { createNormals(); });
 }

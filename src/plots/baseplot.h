@@ -463,6 +463,7 @@ private:
 
     void createActions();
     void rebuildWhatChanged();
+    bool prepareLists();
     void updateAdditions();
     void updateColors();
     void updateMesh();
@@ -484,7 +485,6 @@ private:
     /// Device pixels per logical pixel of what is drawn on.
     double textRatio() const;
     void drawTile();
-    /// Logical pixels that the legend leaves to the title at the top of a window of a size in pixels.
     double reservedTop(const QSize& window);
     void saveMarkers() const;
     void loadMarkers();

@@ -328,6 +328,11 @@ private slots:
         QCOMPARE(plot.selectionCapacity, 15 * 11);
         plot.slotSetPlotStyle(0);
         QVERIFY(!at(4, 6).valid);
+        DotAddition dot(2.0, false, Qt::blue);
+        Addition* const added = plot.addAddition(dot);
+        QVERIFY(at(4, 6).valid);
+        QVERIFY(plot.removeAddition(added));
+        QVERIFY(!at(4, 6).valid);
         plot.slotSetPlotStyle(2);
         QVERIFY(at(4, 6).valid);
         plot.clearData();

@@ -75,6 +75,7 @@ private slots:
     void aChangeRebuildsWhatItMust();
     void theMeshIsDrawnWhereItWas_data();
     void theMeshIsDrawnWhereItWas();
+    void theFirstGradientBringsTheMesh();
     void markersRebuildNoData();
     void spectraKeepTheirSheets();
     void picturesTakeTheWindowsLists_data();
@@ -207,6 +208,24 @@ void TestRebuilding::theMeshIsDrawnWhereItWas()
     QVERIFY(prepared(built));
     QCOMPARE(after, harness::grab(built));
     QVERIFY(after != before);
+}
+
+void TestRebuilding::theFirstGradientBringsTheMesh()
+{
+    const auto prepared = [](SHPlot& plot) {
+        plot.setPlotStyle(5);
+        plot.setRotation({40.0, 0.0, 30.0});
+        plot.getLegend().setVisible(false);
+        return Heights(6, 6, plane).into(plot) && harness::show(plot, 120, 120);
+    };
+    Plot colored;
+    QVERIFY(prepared(colored));
+    SHPlot plot("plot", organization, application);
+    QVERIFY(prepared(plot));
+    const harness::Messages quiet;
+    harness::grab(plot);
+    plot.setGradient("ramp", ramp());
+    QCOMPARE(harness::grab(plot), harness::grab(colored));
 }
 
 void TestRebuilding::markersRebuildNoData()
