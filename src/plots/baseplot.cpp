@@ -232,7 +232,7 @@ void BasePlot::rebuildWhatChanged()
     if (lists->areAdditionsOld)
         updateAdditions();
     if (lists->areColorsOld)
-        updateColors();
+        updateDataList();
     if (lists->isMeshOld)
         updateMesh();
     if (lists->areNormalsOld)
@@ -317,7 +317,7 @@ void BasePlot::updateData()
     if (data && !data->isEmpty())
         settings->getCylinder().setRadius(0.5 * std::min(data->getStepX(), data->getStepY()));
     updateAdditions();
-    updateColors();
+    updateDataList();
     updateMesh();
 }
 
@@ -342,7 +342,7 @@ void BasePlot::updateAdditions()
 }
 
 /// The list of the data by itself.
-void BasePlot::updateColors()
+void BasePlot::updateDataList()
 {
     lists->areColorsOld = false;
     if (!prepareLists())

@@ -465,7 +465,7 @@ private:
     void rebuildWhatChanged();
     bool prepareLists();
     void updateAdditions();
-    void updateColors();
+    void updateDataList();
     void updateMesh();
     void preparePreview();
     void removePreview();

@@ -336,6 +336,7 @@ void TestViewerWindow::windowComesBackAsItWasLeft()
 
 void TestViewerWindow::aboutSaysWhatRuns()
 {
+    QCoreApplication::setApplicationVersion("12.34.56");
     const auto said = [this] {
         action("About VORAN Viewer...").trigger();
         auto* box = m_window->findChild<QMessageBox*>("about");
@@ -344,8 +345,7 @@ void TestViewerWindow::aboutSaysWhatRuns()
         return text;
     };
     const QString withPlot = said();
-    for (const QString& part :
-         {QCoreApplication::applicationVersion(), QString(qVersion()), QString("OpenGL ")})
+    for (const QString& part : {QString("12.34.56"), QString(qVersion()), QString("OpenGL ")})
         QVERIFY2(withPlot.contains(part), qPrintable(withPlot));
     m_window->closePlot();
     const QString without = said();
